@@ -3,38 +3,56 @@
 // number of times however long it is.
 #include "netloom/util/csvparser.h"
 
+#include <cstring>
 #include <fstream>
 #include <istream>
 #include <ostream>
 #include <sstream>
+#include <utility>
 
 #include "netloom/util/stlhelper.h"
 
 namespace {
 
 // Tracks whether a quoted cell is open while a row's text grows line by line,
-// scanning each character once (a quote inside an unquoted cell is data).
+// looking at each character at most once (a quote inside an unquoted cell is data).
 struct QuoteScanner {
   bool inQuotes = false;
   bool atFieldStart = true;
   bool pendingQuote = false;  // a quote inside a quoted cell: closing or the first of a pair
 
+  // Jumps from quote to quote with memchr; only the character before a quote
+  // outside quoted cells needs a look, to tell whether the quote opens a cell.
   void Feed(const std::string& text, size_t from, char delim) {
-    for (size_t i = from; i < text.size(); ++i) {
-      const char c = text[i];
+    const char* const data = text.data();
+    const size_t n = text.size();
+    size_t i = from;
+    while (i < n) {
       if (pendingQuote) {
         pendingQuote = false;
-        if (c == '"') continue;  // doubled quote, still inside
+        if (data[i] == '"') {  // doubled quote, still inside
+          ++i;
+          continue;
+        }
         inQuotes = false;
       }
       if (inQuotes) {
-        if (c == '"') pendingQuote = true;
-      } else if (c == '"' && atFieldStart) {
-        inQuotes = true;
-        atFieldStart = false;
-      } else {
-        atFieldStart = (c == delim);
+        const void* q = std::memchr(data + i, '"', n - i);
+        if (!q) return;
+        i = static_cast<size_t>(static_cast<const char*>(q) - data) + 1;
+        pendingQuote = true;
+        continue;
       }
+      if (data[i] == '"') {
+        inQuotes = atFieldStart;
+        atFieldStart = false;
+        ++i;
+        continue;
+      }
+      const void* q = std::memchr(data + i, '"', n - i);
+      const size_t stop = q ? static_cast<size_t>(static_cast<const char*>(q) - data) : n;
+      atFieldStart = data[stop - 1] == delim;
+      i = stop;
     }
   }
   // A quote that ended the text closes the cell.
@@ -71,13 +89,14 @@ void ParseRow(const std::string& text, char delim, std::vector<std::string>& out
       const size_t stop = d == std::string::npos ? n : d;
       field.append(text, i, stop - i);
       i = stop;
+      out.push_back(std::move(field));
     } else {
+      // An unquoted cell is copied once, straight from the row.
       const size_t d = text.find(delim, i);
       const size_t stop = d == std::string::npos ? n : d;
-      field.append(text, i, stop - i);
+      out.emplace_back(text, i, stop - i);
       i = stop;
     }
-    out.push_back(field);
     if (i >= n) break;
     ++i;  // the delimiter
     if (i == n) {
@@ -118,7 +137,16 @@ void WriteField(std::ostream& out, const std::string& s, char delim) {
 CSVLineParser::CSVLineParser(const std::string& delimiter) : m_delim(delimiter.empty() ? ',' : delimiter[0]) {}
 
 bool CSVLineParser::ReadFromStream(std::istream& in) {
-  std::string row;
+  // The row's text lives in a per-thread buffer that keeps its capacity from
+  // row to row; a buffer grown by a huge row is given back afterwards.
+  thread_local std::string buffer;
+  struct Release {
+    std::string& text;
+    ~Release() {
+      if (text.capacity() > (1u << 20)) std::string().swap(text);
+    }
+  } release{buffer};
+  std::string& row = buffer;
   if (!std::getline(in, row)) return false;
   // A quoted cell may span lines: keep joining while one is open.
   if (row.find('"') != std::string::npos) {
@@ -236,8 +264,14 @@ bool CSVParser::Load(const std::string& text) {
 bool CSVParser::LoadFromStream(std::istream& in) {
   m_rows.clear();
   if (!in) return false;
+  // Each row's cells move into the table; the reader starts the next row empty.
   CSVLineParser line(m_delimText);
-  while (line.ReadFromStream(in)) m_rows.push_back(line);
+  while (line.ReadFromStream(in)) {
+    const size_t cells = line.size();
+    m_rows.push_back(std::move(line));
+    line.Clear();
+    line.Fields().reserve(cells);  // rows of a file are mostly alike
+  }
   return true;
 }
 
