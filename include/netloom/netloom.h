@@ -17,3 +17,5 @@
 
 // Support services
 #include "netloom/lockmgr.h"
+#include "netloom/schemakeys.h"
+#include "netloom/topofilesystem.h"
