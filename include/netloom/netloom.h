@@ -19,3 +19,7 @@
 #include "netloom/lockmgr.h"
 #include "netloom/schemakeys.h"
 #include "netloom/topofilesystem.h"
+
+// Device tables
+#include "netloom/commontable.h"
+#include "netloom/commontablecompareresult.h"
