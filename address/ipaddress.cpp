@@ -5,6 +5,7 @@
 #include "netloom/ipaddress.h"
 
 #include "address/supernetwalk.h"
+#include "netloom/util/stlhelper.h"
 
 #include <netdb.h>
 #include <netinet/in.h>
@@ -19,13 +20,6 @@
 #include <cstring>
 
 namespace netloom::detail {
-
-std::string TrimBlank(const std::string& text) {
-    size_t b = 0, e = text.size();
-    while (b < e && std::isspace(static_cast<unsigned char>(text[b]))) ++b;
-    while (e > b && std::isspace(static_cast<unsigned char>(text[e - 1]))) --e;
-    return text.substr(b, e - b);
-}
 
 // Four octets of at most three digits, each at most 255. The trailing
 // conversion decides what may follow: "%1c" refuses any character (blanks
@@ -67,24 +61,6 @@ int SafeAtoi(const std::string& s) {
     if (v > INT_MAX) return INT_MAX;
     if (v < INT_MIN) return INT_MIN;
     return static_cast<int>(v);
-}
-
-std::vector<std::string> SplitExact(const std::string& text, const std::string& sep) {
-    std::vector<std::string> parts;
-    if (sep.empty()) {
-        parts.push_back(text);
-        return parts;
-    }
-    size_t start = 0;
-    for (;;) {
-        size_t pos = text.find(sep, start);
-        if (pos == std::string::npos) {
-            parts.push_back(text.substr(start));
-            return parts;
-        }
-        parts.push_back(text.substr(start, pos - start));
-        start = pos + sep.size();
-    }
 }
 
 // Resolves a host name to IPv4 addresses, at most `limit` of them.
@@ -216,7 +192,7 @@ int IpAddress::getMaskLength(int octet) {
 
 int IpAddress::getMaskLength(const std::string& text) {
     if (!isValidIpAddress(text)) return -1;
-    std::vector<std::string> parts = SplitExact(text, ".");
+    std::vector<std::string> parts = StlHelper::splitString(text, ".");
     if (parts.size() != 4) return -1;
     int total = 0;
     bool closed = false;  // a partial or zero octet ends the run
@@ -232,7 +208,7 @@ int IpAddress::getMaskLength(const std::string& text) {
 }
 
 bool IpAddress::isValidIpAddress(const std::string& text) {
-    std::string t = TrimBlank(text);
+    std::string t = StlHelper::trump(text);
     int group = 0, dots = 0;
     for (char ch : t) {
         if (ch >= '0' && ch <= '9') {
@@ -261,7 +237,7 @@ bool IpAddress::isValidIpAddressForHost(std::string text) {
 }
 
 bool IpAddress::isValidIpAddressAndMaskLen(const std::string& text) {
-    std::string t = TrimBlank(text);
+    std::string t = StlHelper::trump(text);
     size_t slash = t.find('/');
     if (slash == std::string::npos) return false;
     if (!isValidIpAddress(t.substr(0, slash))) return false;
@@ -273,7 +249,7 @@ bool IpAddress::isValidIpAddressAndMaskLen(const std::string& text) {
 
 bool IpAddress::formateIpAddressAndMaskLen(std::string& text) {
     if (!isValidIpAddressAndMaskLen(text)) return false;
-    std::string t = TrimBlank(text);
+    std::string t = StlHelper::trump(text);
     size_t slash = t.find('/');
     // The address is read one character short of the "/"; stored data was
     // written this way, so the reading stays.
@@ -288,7 +264,7 @@ bool IpAddress::isValidNetmask(const std::string& text) { return getMaskLength(t
 
 bool IpAddress::GetIpRangByStr(const std::string& text, std::pair<IpAddress, IpAddress>& range,
                                const std::string& separator) {
-    std::vector<std::string> parts = SplitExact(text, separator);
+    std::vector<std::string> parts = StlHelper::splitString(text, separator);
     if (parts.size() != 2) return false;
     IpAddress first(parts[0]), last(parts[1]);
     if (first.isNull() || last.isNull()) return false;
@@ -459,13 +435,13 @@ bool IpLocation::IsLanBroadcastAddr(const IpAddress& ip, const IpLocation& locat
 }
 
 bool IpLocation::get_ip_mask(const std::string& text, IpAddress& addr, IpAddress& mask) {
-    std::string t = TrimBlank(text);
+    std::string t = StlHelper::trump(text);
     if (t.empty()) return false;
     std::string addrText = t, maskText;
     size_t blank = t.find(' ');
     if (blank != std::string::npos) {
         addrText = t.substr(0, blank);
-        maskText = TrimBlank(t.substr(blank + 1));
+        maskText = StlHelper::trump(t.substr(blank + 1));
     }
     if (!maskText.empty() && IpAddress::isValidIpAddress(addrText)) {
         addr = IpAddress(addrText);
@@ -524,19 +500,15 @@ bool ReadAddressAndMask(const std::string& left, const std::string& right, IpAdd
 }  // namespace netloom::detail
 
 bool IpLocation::fromString(const std::string& text) {
-    // Untrimmed on purpose: a blank before the "/" makes the address unreadable.
-    size_t slash = text.find('/');
-    std::string left = slash == std::string::npos ? text : text.substr(0, slash);
-    std::string right = slash == std::string::npos ? std::string() : text.substr(slash + 1);
-    return ReadAddressAndMask(left, right, m_addr, m_mask);
+    // Untrimmed on purpose: a blank around the "/" makes a part unreadable.
+    return ReadAddressAndMask(StlHelper::GetLSubString(text, "/"), StlHelper::GetRSubString(text, "/"), m_addr,
+                              m_mask);
 }
 
 bool IpLocation::fromString2(const std::string& text) {
-    std::string t = TrimBlank(text);
-    size_t blank = t.find(' ');
-    std::string left = blank == std::string::npos ? t : t.substr(0, blank);
-    std::string right = blank == std::string::npos ? std::string() : TrimBlank(t.substr(blank + 1));
-    return ReadAddressAndMask(left, right, m_addr, m_mask);
+    std::string t = StlHelper::trump(text);
+    return ReadAddressAndMask(StlHelper::GetLSubString(t, " "), StlHelper::trump(StlHelper::GetRSubString(t, " ")),
+                              m_addr, m_mask);
 }
 
 // ---------------------------------------------------------------- IpWildcard
