@@ -30,3 +30,5 @@
 // Device tables
 #include "netloom/commontable.h"
 #include "netloom/commontablecompareresult.h"
+#include "netloom/boundinterfacetable.h"
+#include "netloom/stptable.h"
