@@ -1,0 +1,19 @@
+// Everything Netloom exports, in one include.
+#pragma once
+
+#include "netloom/export.h"
+
+// Utility layer
+#include "netloom/util/conf.h"
+#include "netloom/util/csvparser.h"
+#include "netloom/util/guid.h"
+#include "netloom/util/logger.h"
+#include "netloom/util/misc.h"
+#include "netloom/util/pathname.h"
+#include "netloom/util/stlhelper.h"
+#include "netloom/util/strformat.h"
+#include "netloom/util/textcheck.h"
+#include "netloom/util/twfilesystem.h"
+
+// Support services
+#include "netloom/lockmgr.h"
