@@ -7,18 +7,13 @@
 #include <cinttypes>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
+
+#include "netloom/util/stlhelper.h"
 
 namespace netloom::detail {
 namespace {
 
 constexpr std::size_t kMacDigits = 12;
-
-void EraseAll(std::string& text, const char* what) {
-  const std::size_t len = std::strlen(what);
-  std::size_t pos = 0;
-  while ((pos = text.find(what, pos, len)) != std::string::npos) text.erase(pos, len);
-}
 
 bool IsKeptChar(char c) {
   return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F');
@@ -29,8 +24,8 @@ bool IsKeptChar(char c) {
 // hex digit, separators and stray letters alike.
 std::string CleanMacText(const std::string& text) {
   std::string copy = text;
-  EraseAll(copy, "0x");
-  EraseAll(copy, "0X");
+  StlHelper::replaceString(copy, "0x", "");
+  StlHelper::replaceString(copy, "0X", "");
   std::string digits;
   digits.reserve(kMacDigits + 1);
   for (char c : copy) {
