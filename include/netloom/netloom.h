@@ -15,5 +15,14 @@
 #include "netloom/util/textcheck.h"
 #include "netloom/util/twfilesystem.h"
 
+// Address primitives
+#include "netloom/ipaddress.h"
+
+// Routing
+#include "netloom/routingcost.h"
+#include "netloom/routingtable.h"
+
 // Support services
 #include "netloom/lockmgr.h"
+#include "netloom/schemakeys.h"
+#include "netloom/topofilesystem.h"
