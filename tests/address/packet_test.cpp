@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "common/testenv.h"
+#include "netloom/l3packet.h"
 #include "netloom/transprotocolhelper.h"
 #include "netloom/util/csvparser.h"
 #include "netloom/util/twfilesystem.h"
@@ -30,6 +31,88 @@ std::string UsePrivateResourceFolder() {
     GTEST_SKIP() << "resource folder already fixed in this process";                 \
   }                                                                                    \
   static_assert(true, "")
+
+TEST(L3Packet, DefaultsMeanAny) {
+  const L3Packet p;
+  EXPECT_TRUE(p.SourceIP.isNull());
+  EXPECT_TRUE(p.DestinationIP.isNull());
+  EXPECT_EQ(p.Protocol, -1);
+  EXPECT_EQ(p.SourcePort, 0xFFFF);
+  EXPECT_EQ(p.DestinationPort, 0xFFFF);
+  EXPECT_EQ(p.Reserved, 0u);
+
+  const L3Packet addressesOnly("10.0.0.1", "10.0.0.2");
+  EXPECT_EQ(addressesOnly.SourceIP.textForm(), "10.0.0.1");
+  EXPECT_EQ(addressesOnly.DestinationIP.textForm(), "10.0.0.2");
+  EXPECT_EQ(addressesOnly.Protocol, -1);
+  EXPECT_EQ(addressesOnly.SourcePort, 0xFFFF);
+  EXPECT_EQ(addressesOnly.DestinationPort, 0xFFFF);
+}
+
+TEST(L3Packet, BadAddressTextIsZero) {
+  EXPECT_TRUE(L3Packet("bad", "10.0.0.2").SourceIP.isNull());
+  EXPECT_TRUE(L3Packet("10.0.0.1", "10.0.0.256", 6, 1, 2).DestinationIP.isNull());
+  L3Packet p("10.0.0.1", "10.0.0.2");
+  p.SetSourceIP("1.2.3.4 ");
+  p.SetDestinationIP("");
+  EXPECT_TRUE(p.SourceIP.isNull());
+  EXPECT_TRUE(p.DestinationIP.isNull());
+}
+
+TEST(L3Packet, PortsKeepTheLowSixteenBits) {
+  const L3Packet p("10.0.0.1", "10.0.0.2", 17, static_cast<short>(-1), 0x12345);
+  EXPECT_EQ(p.SourcePort, 0xFFFF);
+  EXPECT_EQ(p.DestinationPort, 0x2345);
+  L3Packet q;
+  q.SetSourcePort(0x10050);
+  q.SetDestinationPort(-2);
+  q.SetProtocol(6);
+  EXPECT_EQ(q.SourcePort, 0x50);
+  EXPECT_EQ(q.DestinationPort, 0xFFFE);
+  EXPECT_EQ(q.Protocol, 6);
+}
+
+TEST(L3Packet, EqualityIgnoresTheReservedWord) {
+  const L3Packet base(IpAddress(0x0A000001u), IpAddress(0x0A000002u), 6, 1024, 80);
+  L3Packet other = base;
+  other.Reserved = 0xDEADBEEF;
+  EXPECT_TRUE(base == other);
+
+  // Every other field counts.
+  L3Packet diff = base;
+  diff.SetProtocol(17);
+  EXPECT_FALSE(base == diff);
+  diff = base;
+  diff.SetSourcePort(1025);
+  EXPECT_FALSE(base == diff);
+  diff = base;
+  diff.SetDestinationPort(81);
+  EXPECT_FALSE(base == diff);
+  diff = base;
+  diff.SetSourceIP("10.0.0.3");
+  EXPECT_FALSE(base == diff);
+  diff = base;
+  diff.SetDestinationIP("10.0.0.3");
+  EXPECT_FALSE(base == diff);
+
+  // Port 0 is a real port, not "any".
+  L3Packet anyPort("10.0.0.1", "10.0.0.2");
+  L3Packet zeroPort = anyPort;
+  zeroPort.SetDestinationPort(0);
+  EXPECT_FALSE(anyPort == zeroPort);
+}
+
+TEST(L3Packet, ReverseSwapsAddressesAndPorts) {
+  const L3Packet p("10.0.0.1", "192.168.1.1", 6, 40000, 443);
+  const L3Packet r = p.getReverse();
+  EXPECT_EQ(r.SourceIP.textForm(), "192.168.1.1");
+  EXPECT_EQ(r.DestinationIP.textForm(), "10.0.0.1");
+  EXPECT_EQ(r.SourcePort, 443);
+  EXPECT_EQ(r.DestinationPort, 40000);
+  EXPECT_EQ(r.Protocol, 6);
+  EXPECT_FALSE(r == p);
+  EXPECT_TRUE(r.getReverse() == p);
+}
 
 std::list<STransProtocol> AllRows() {
   std::list<STransProtocol> rows;
