@@ -17,10 +17,15 @@
 
 // Address primitives
 #include "netloom/ipaddress.h"
+#include "netloom/ipaddress2.h"
+#include "netloom/l3packet.h"
+#include "netloom/macaddress.h"
+#include "netloom/transprotocolhelper.h"
 
 // Routing
 #include "netloom/routingcost.h"
 #include "netloom/routingtable.h"
+#include "netloom/routinghop.h"
 
 // Support services
 #include "netloom/lockmgr.h"
