@@ -37,3 +37,4 @@
 #include "netloom/commontablecompareresult.h"
 #include "netloom/boundinterfacetable.h"
 #include "netloom/stptable.h"
+#include "netloom/nattable.h"
