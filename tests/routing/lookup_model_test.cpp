@@ -4,8 +4,11 @@
 // rules applied to the scan's answer.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <map>
 #include <memory>
 #include <random>
+#include <set>
 
 #include "netloom/routingtable.h"
 
@@ -37,10 +40,18 @@ struct Model {
         return out;
     }
 
+    // Entries by key, for tables too large to scan per probe.
+    std::map<uint64_t, std::vector<unsigned int>> byKey;
+
     // First location of the walk that any entry's key is equivalent to.
     std::vector<unsigned int> Possible(const IpLocation& location) const {
         for (const IpLocation& probe : Walk(location)) {
             const uint64_t want = Key(probe.unmaskedAddress().bitForm(), probe.subnetMask().bitForm());
+            if (entries.size() > 1000) {
+                auto it = byKey.find(want);
+                if (it != byKey.end() && !it->second.empty()) return it->second;
+                continue;
+            }
             std::vector<unsigned int> hits;
             for (const auto& e : entries)
                 if (Key(e->DestIp.bitForm(), e->DestMask.bitForm()) == want) hits.push_back(e->Index);
@@ -50,25 +61,44 @@ struct Model {
     }
 
     const RoutingTableEntry* ByIndex(unsigned int index) const {
-        for (const auto& e : entries)
-            if (e->Index == index) return e.get();
-        return nullptr;
+        // Entries stay in Index order: binary search.
+        auto it = std::lower_bound(entries.begin(), entries.end(), index,
+                                   [](const std::unique_ptr<RoutingTableEntry>& e, unsigned int i) { return e->Index < i; });
+        return it != entries.end() && (*it)->Index == index ? it->get() : nullptr;
     }
 
-    const RoutingTableEntry* DefaultRoute() const {
-        const RoutingTableEntry* chosen = nullptr;
-        for (const auto& e : entries)
-            if (e->CandidateDefault && e->Alg != RT_ALG_CONNECTED) chosen = e.get();
-        return chosen;
+    // The last candidate added, until it is deleted.
+    unsigned int defaultIndex = 0;
+
+    void Add(const RoutingTableEntry& e, unsigned int index) {
+        entries.push_back(std::make_unique<RoutingTableEntry>(e));
+        entries.back()->Index = index;
+        byKey[Key(e.DestIp.bitForm(), e.DestMask.bitForm())].push_back(index);
+        if (e.CandidateDefault && e.Alg != RT_ALG_CONNECTED) defaultIndex = index;
+        if (!e.DestIp.isNull() && !(e.DestMask < e.DestIp.classMask()))
+            majors.insert(e.DestIp.bitForm() & e.DestIp.classMaskBits());
     }
 
-    bool KnownMajor(unsigned int network) const {
-        for (const auto& e : entries) {
-            if (e->DestIp.isNull() || e->DestMask < e->DestIp.classMask()) continue;
-            if ((e->DestIp.bitForm() & e->DestIp.classMaskBits()) == network) return true;
+    // Every entry whose key is equivalent to the location's.
+    void DeleteKey(const IpLocation& location) {
+        const uint64_t want = Key(location.unmaskedAddress().bitForm(), location.subnetMask().bitForm());
+        byKey.erase(want);
+        for (size_t i = 0; i < entries.size();) {
+            if (Key(entries[i]->DestIp.bitForm(), entries[i]->DestMask.bitForm()) == want) {
+                if (entries[i]->Index == defaultIndex) defaultIndex = 0;
+                entries.erase(entries.begin() + long(i));
+            } else {
+                ++i;
+            }
         }
-        return false;
     }
+
+    const RoutingTableEntry* DefaultRoute() const { return defaultIndex == 0 ? nullptr : ByIndex(defaultIndex); }
+
+    // Major networks are remembered from every add; deletes never forget them.
+    std::set<unsigned int> majors;
+
+    bool KnownMajor(unsigned int network) const { return majors.count(network) != 0; }
 
     std::vector<unsigned int> LookUp(const IpAddress& address, bool classless) const {
         std::vector<unsigned int> found = Possible(IpLocation(address, IpAddress(0xFFFFFFFFu)));
@@ -140,6 +170,8 @@ public:
         return e;
     }
 
+    unsigned int Raw() { return m_rng(); }
+
     unsigned int Pick(unsigned int n) { return std::uniform_int_distribution<unsigned int>(0, n - 1)(m_rng); }
 
 private:
@@ -169,8 +201,7 @@ TEST(LookupModel, MapProbesAgreeWithALinearScanOfTheWalk) {
                 }
             }
             t.AddRoute(&e);
-            model.entries.push_back(std::make_unique<RoutingTableEntry>(e));
-            model.entries.back()->Index = i + 1;
+            model.Add(e, i + 1);
         }
         for (int p = 0; p < 40; ++p, ++probes) {
             IpAddress address(gen.Address());
@@ -187,6 +218,16 @@ TEST(LookupModel, MapProbesAgreeWithALinearScanOfTheWalk) {
             ASSERT_EQ(matched, !classless.empty());
             ASSERT_EQ(Indexes(out), model.Matched(address));
             nonEmpty += !classless.empty();
+            // Now and then a prefix goes away; its key may linger in the
+            // table's lookup index but must not be found.
+            if (gen.Pick(8) == 0 && !model.entries.empty()) {
+                const RoutingTableEntry& victim = *model.entries[gen.Pick(unsigned(model.entries.size()))];
+                IpLocation key(victim.DestIp, victim.DestMask);
+                ASSERT_TRUE(t.DeleteRoutes(key));
+                model.DeleteKey(key);
+                ASSERT_FALSE(t.DeleteRoutes(key));
+                ASSERT_EQ(t.GetSize(), model.entries.size());
+            }
         }
         // Rebuilding the network map from the index map changes no answer.
         if (table % 10 == 0) {
@@ -198,4 +239,43 @@ TEST(LookupModel, MapProbesAgreeWithALinearScanOfTheWalk) {
     // The generator must actually exercise hits, not only misses.
     EXPECT_GT(nonEmpty, probes / 4);
     EXPECT_LT(nonEmpty, probes);
+}
+
+TEST(LookupModel, LargeTablesWithPerBlockLengthsAgreeToo) {
+    // Past a few thousand keys the table also keeps prefix lengths per /16
+    // block; short prefixes span many blocks, and deletes leave stale bits.
+    Generator gen(77);
+    for (int round = 0; round < 3; ++round) {
+        RoutingTable t("large");
+        Model model;
+        const unsigned int size = 32000 + gen.Pick(8000);
+        for (unsigned int i = 0; i < size; ++i) {
+            RoutingTableEntry e = gen.Entry();
+            if (gen.Pick(3) != 0) {  // spread over the whole space, all lengths
+                const unsigned int mask = IpAddress::getBitMaskByLength(int(gen.Pick(33)));
+                e.DestIp = IpAddress(gen.Raw() & mask);
+                e.DestMask = IpAddress(mask);
+            }
+            t.AddRoute(&e);
+            model.Add(e, i + 1);
+            if (i == size / 2) t.LookUp(IpAddress(1u), true);  // index built half way, then grown
+        }
+        ASSERT_GT(t.getEntryNetworkMap().size(), 17000u);  // a large table, by distinct keys
+        for (int p = 0; p < 20000; ++p) {
+            IpAddress address(p % 2 == 0 ? gen.Address() : gen.Raw());
+            if (p % 4 == 0) {  // inside a present prefix
+                const RoutingTableEntry& e = *model.entries[gen.Pick(unsigned(model.entries.size()))];
+                address = IpAddress(e.DestIp.bitForm() | (gen.Address() & ~e.DestMask.bitForm()));
+            }
+            ASSERT_EQ(Indexes(t.LookUp(address, true)), model.LookUp(address, true))
+                << "round " << round << " " << address.textForm();
+            ASSERT_EQ(Indexes(t.LookUp(address, false)), model.LookUp(address, false));
+            if (p % 50 == 0) {
+                const RoutingTableEntry& victim = *model.entries[gen.Pick(unsigned(model.entries.size()))];
+                IpLocation key(victim.DestIp, victim.DestMask);
+                ASSERT_TRUE(t.DeleteRoutes(key));
+                model.DeleteKey(key);
+            }
+        }
+    }
 }

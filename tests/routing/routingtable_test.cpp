@@ -95,6 +95,27 @@ TEST(RouteLookup, KeyOrderCollisionSharesOneVector) {
     EXPECT_FALSE(t.AddRouteIfDestNotExist(&host));
 }
 
+TEST(RouteLookup, ChangesThroughTheMapReferenceAreSeen) {
+    RoutingTable t("r1");
+    auto r8 = Route("10.0.0.0", 8, "1.1.1.1");
+    t.AddRoute(&r8);
+    ASSERT_EQ(t.LookUp(IpAddress(Ip("10.2.0.1")), true).size(), 1u);
+    // Re-key the routes by hand, as a reader that fills the map itself would.
+    auto& map = t.getEntryNetworkMap();
+    auto routes = map.begin()->second;
+    map.clear();
+    map[IpLocation(Ip("10.1.0.0"), 0xFFFF0000u)] = routes;
+    EXPECT_TRUE(t.LookUp(IpAddress(Ip("10.2.0.1")), true).empty());
+    EXPECT_EQ(t.LookUp(IpAddress(Ip("10.1.0.1")), true).size(), 1u);
+    // A second key added through a fresh reference after lookups ran.
+    t.getEntryNetworkMap()[IpLocation(Ip("20.0.0.0"), 0xFF000000u)] = routes;
+    EXPECT_EQ(t.LookUp(IpAddress(Ip("20.9.9.9")), true).size(), 1u);
+    t.getEntryNetworkMap().clear();
+    EXPECT_TRUE(t.LookUp(IpAddress(Ip("20.9.9.9")), true).empty());
+    t.GenerateNetworkMap();
+    EXPECT_EQ(t.LookUp(IpAddress(Ip("10.2.0.1")), true).size(), 1u);
+}
+
 TEST(RouteLookup, ClassfulLookupIgnoresSummariesForKnownMajorNetworks) {
     RoutingTable t("r1");
     auto zero = Route("0.0.0.0", 0, "9.9.9.9"), sub = Route("10.2.0.0", 16, "1.1.1.1");
