@@ -7,6 +7,7 @@
 #include <strings.h>
 
 #include "address/supernetwalk.h"
+#include "routing/networkkeyindex.h"
 
 namespace netloom::detail {
 
@@ -263,6 +264,7 @@ RoutingTable& RoutingTable::operator=(const RoutingTable& other) {
     m_entryIndexMap.swap(copy.m_entryIndexMap);
     m_majorNetworkMap.swap(copy.m_majorNetworkMap);
     copy.m_defaultRoute = nullptr;
+    NetworkMapChanged();
     m_lastResortGateway = other.m_lastResortGateway;
     m_lastResortNetwork = other.m_lastResortNetwork;
     m_deviceName = other.m_deviceName;
@@ -277,6 +279,7 @@ void RoutingTable::DeleteAllEntries() {
     m_entryIndexMap.clear();
     m_networkMap.clear();
     m_defaultRoute = nullptr;
+    NetworkMapChanged();
 }
 
 // ---------------------------------------------------------------- RoutingTable: changes
@@ -313,8 +316,13 @@ void RoutingTable::AddEntry(RoutingTableEntry* entry) {
         delete entry;
         return;
     }
-    m_networkMap[IpLocation(entry->DestIp, entry->DestMask)].push_back(entry);
+    const IpLocation key(entry->DestIp, entry->DestMask);
+    m_networkMap[key].push_back(entry);
     AddToMajorNetwork(entry);
+    if (m_keyIndexValid) {
+        m_keyIndex->Insert(key.orderKey());
+        m_indexedMapSize = m_networkMap.size();
+    }
 
     if (!entry->CandidateDefault || entry->Alg == RT_ALG_CONNECTED) return;
     if (entry->Alg == RT_ALG_STATIC) {
@@ -337,6 +345,7 @@ void RoutingTable::AddToMajorNetwork(const RoutingTableEntry* entry) {
 
 void RoutingTable::GenerateNetworkMap() {
     m_networkMap.clear();
+    NetworkMapChanged();
     for (const auto& [index, entry] : m_entryIndexMap) {
         if (entry == nullptr) continue;
         m_networkMap[IpLocation(entry->DestIp, entry->DestMask)].push_back(entry);
@@ -363,7 +372,10 @@ bool RoutingTable::DeleteRoute(const RoutingTableEntry* entry) {
         // Never leave the default route pointing at freed memory.
         if (m_defaultRoute == victim) m_defaultRoute = nullptr;
         delete victim;  // may be `entry` itself: not read below
+        // An erased key may stay in the key index: a false hit costs one
+        // map search and finds nothing.
         if (list.empty()) m_networkMap.erase(slot);
+        if (m_keyIndexValid) m_indexedMapSize = m_networkMap.size();
     }
     return true;
 }
@@ -378,6 +390,7 @@ bool RoutingTable::DeleteRoutes(IpLocation& location) {
         delete victim;
     }
     m_networkMap.erase(slot);
+    if (m_keyIndexValid) m_indexedMapSize = m_networkMap.size();
     return true;
 }
 
@@ -432,34 +445,72 @@ void RoutingTable::DeleteRTEntryList(std::map<unsigned int, RoutingTableEntry*>&
 
 // ---------------------------------------------------------------- RoutingTable: lookups
 
+void RoutingTable::SyncKeyIndex() {
+    // The size test catches most changes made through a kept reference.
+    if (m_keyIndexValid && m_indexedMapSize == m_networkMap.size()) return;
+    if (!m_keyIndex) m_keyIndex = std::make_unique<NetworkKeyIndex>();
+    m_keyIndex->Clear();
+    m_keyIndex->Reserve(m_networkMap.size());
+    for (const auto& [key, list] : m_networkMap) m_keyIndex->Insert(key.orderKey());
+    m_indexedMapSize = m_networkMap.size();
+    m_keyIndexValid = true;
+}
+
+void RoutingTable::PossibleInto(const IpLocation& location, std::vector<RoutingTableEntry*>& out) {
+    out.clear();
+    SyncKeyIndex();
+    auto probe = [&](const IpLocation& key) {
+        if (!m_keyIndex->MayContain(key.orderKey())) return false;
+        auto it = m_networkMap.find(key);
+        if (it == m_networkMap.end()) return false;
+        out.assign(it->second.begin(), it->second.end());
+        return true;
+    };
+    if (!location.isFullMask() || location.isNull()) {
+        WalkSupernets(location, probe);
+        return;
+    }
+    // A host address: the same walk (/32 down, the address cleared bit by
+    // bit, ending once it is 0, then 0/0), skipping the lengths that no key
+    // can have here.
+    const unsigned int address = location.unmaskedAddress().bitForm();
+    const uint64_t lengths = m_keyIndex->HostLengths(address);
+    for (int len = 32; len >= 1; --len) {
+        const unsigned int mask = IpAddress::getBitMaskByLength(len);
+        const unsigned int a = address & mask;
+        if (((lengths >> len) & 1u) != 0 && probe(IpLocation(a, mask))) return;
+        if (a == 0) break;
+    }
+    if ((lengths & 1u) != 0) probe(IpLocation(0u, 0u));
+}
+
 std::vector<RoutingTableEntry*> RoutingTable::GetPossibleEntry(IpLocation& location) {
     std::vector<RoutingTableEntry*> found;
-    WalkSupernets(location, [&](const IpLocation& probe) {
-        auto it = m_networkMap.find(probe);
-        if (it == m_networkMap.end()) return false;
-        found = it->second;
-        return true;
-    });
+    PossibleInto(location, found);
     return found;
 }
 
-std::vector<RoutingTableEntry*> RoutingTable::LookUp(const IpAddress& address, bool classless) {
-    IpLocation host(address, IpAddress(0xFFFFFFFFu));
-    std::vector<RoutingTableEntry*> found = GetPossibleEntry(host);
-    if (found.empty() && m_defaultRoute != nullptr) found.push_back(m_defaultRoute);
-    if (!found.empty() && !classless) {
+void RoutingTable::LookUpInto(const IpAddress& address, bool classless, std::vector<RoutingTableEntry*>& out) {
+    PossibleInto(IpLocation(address, IpAddress(0xFFFFFFFFu)), out);
+    if (out.empty() && m_defaultRoute != nullptr) out.push_back(m_defaultRoute);
+    if (!out.empty() && !classless) {
         // Classful forwarding: a known major network is never reached
         // through a summary or the default route.
         if (m_majorNetworkMap.count(address.networkForm()) != 0) {
-            const RoutingTableEntry* match = found.front();
-            if (match->DestMask < match->DestIp.classMask() || match->DestIp.isNull()) found.clear();
+            const RoutingTableEntry* match = out.front();
+            if (match->DestMask < match->DestIp.classMask() || match->DestIp.isNull()) out.clear();
         }
     }
+}
+
+std::vector<RoutingTableEntry*> RoutingTable::LookUp(const IpAddress& address, bool classless) {
+    std::vector<RoutingTableEntry*> found;
+    LookUpInto(address, classless, found);
     return found;
 }
 
 bool RoutingTable::GetMatchedRoutingEntry(IpAddress& address, std::vector<RoutingTableEntry*>& out) {
-    out = LookUp(address, true);
+    LookUpInto(address, true, out);
     if (out.empty()) return false;
     // An unknown Distance (65535) wins over every known one.
     unsigned short best = kUnknownDistance;

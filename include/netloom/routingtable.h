@@ -5,6 +5,7 @@
 #pragma once
 
 #include <map>
+#include <memory>
 #include <set>
 #include <string>
 #include <vector>
@@ -41,6 +42,10 @@ enum RouteAction : int {
 };
 
 class RoutingTableEntry;
+
+namespace netloom::detail {
+class NetworkKeyIndex;
+}
 
 // A row of a device's route table as read by SNMP, in text form.
 class NETLOOM_API LiveRtEntry {
@@ -190,7 +195,14 @@ public:
     static unsigned int FormatTimeToSecond(const char* text);
 
     EntryIndexMap& getEntryIndexMap() { return m_entryIndexMap; }
-    NetworkMap& getEntryNetworkMap() { return m_networkMap; }
+    // Lookups keep an index of this map's keys; handing the map out marks
+    // that index for rebuilding. Change the map through the reference just
+    // taken, then look up: a reference kept across lookups and used to
+    // change the map can make later lookups miss the changed keys.
+    NetworkMap& getEntryNetworkMap() {
+        NetworkMapChanged();
+        return m_networkMap;
+    }
 
     void SetLastResoltGateway(unsigned int gateway, unsigned int network) {
         m_lastResortGateway = gateway;
@@ -207,6 +219,16 @@ protected:
     void AddEntry(RoutingTableEntry* entry);
     void AddToMajorNetwork(const RoutingTableEntry* entry);
     void DeleteAllEntries();
+    // Members that change m_networkMap directly call this (or
+    // GenerateNetworkMap) before the next lookup.
+    void NetworkMapChanged() { m_keyIndexValid = false; }
+
+private:
+    void SyncKeyIndex();
+    void PossibleInto(const IpLocation& location, std::vector<RoutingTableEntry*>& out);
+    void LookUpInto(const IpAddress& address, bool classless, std::vector<RoutingTableEntry*>& out);
+
+protected:
 
     RoutingTableEntry* m_defaultRoute = nullptr;
     NetworkMap m_networkMap;
@@ -216,4 +238,10 @@ protected:
     unsigned int m_lastResortNetwork = 0;
     std::string m_deviceName;
     std::string m_description;
+
+private:
+    // Lookup acceleration only; never part of a copy.
+    std::unique_ptr<netloom::detail::NetworkKeyIndex> m_keyIndex;
+    size_t m_indexedMapSize = 0;
+    bool m_keyIndexValid = false;
 };
