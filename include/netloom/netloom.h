@@ -31,3 +31,10 @@
 #include "netloom/lockmgr.h"
 #include "netloom/schemakeys.h"
 #include "netloom/topofilesystem.h"
+
+// Device tables
+#include "netloom/commontable.h"
+#include "netloom/commontablecompareresult.h"
+#include "netloom/boundinterfacetable.h"
+#include "netloom/stptable.h"
+#include "netloom/nattable.h"
