@@ -196,9 +196,9 @@ TEST(TransProtocolCatalogue, ItemLookupsFillOrLeaveTheOutput) {
   EXPECT_EQ(row.GetNumber(), 132);
 
   // A quoted reference with commas and doubled quotes reads back whole.
-  ASSERT_TRUE(helper->GetProtocolItem(std::string("DGP"), row));
-  EXPECT_NE(row.GetRef().find("\"Dissimilar Gateway Protocol Specification, Draft Version\""),
-            std::string::npos);
+  ASSERT_TRUE(helper->GetProtocolItem(std::string("MUX"), row));
+  EXPECT_EQ(row.GetRef().rfind("[Cohen, D. and J. Postel, \"Multiplexing Protocol\", IEN 90,", 0), 0u);
+  EXPECT_EQ(row.GetRef().substr(row.GetRef().size() - 12), "[Jon_Postel]");
 
   STransProtocol untouched;
   untouched.SetNumber(7);

@@ -171,20 +171,6 @@ TEST(RoutingHopCompare, OrderByJoinedText) {
   EXPECT_TRUE(low < high);
 }
 
-TEST(RoutingHopState, GuidAndCopy) {
-  RoutingHop hop = SampleHop();
-  const TW128Guid guid = TW128Guid::NewGuid();
-  hop.SetStateGuid(guid);
-  hop.setFromCli(true);
-  const RoutingHop copy(hop);
-  EXPECT_EQ(copy.GetStateGuid(), guid);
-  EXPECT_TRUE(copy.isFromCli());
-  RoutingHop assigned;
-  assigned = hop;
-  EXPECT_EQ(assigned.GetStateGuid(), guid);
-  EXPECT_TRUE(assigned == hop);
-}
-
 // --- RouteMessage ------------------------------------------------------------
 
 RoutingTableEntry* NewEntry(unsigned int dest, unsigned int mask) {
