@@ -1,0 +1,39 @@
+// Everything Netloom exports, in one include.
+#pragma once
+
+#include "netloom/export.h"
+
+// Utility layer
+#include "netloom/util/conf.h"
+#include "netloom/util/csvparser.h"
+#include "netloom/util/guid.h"
+#include "netloom/util/logger.h"
+#include "netloom/util/misc.h"
+#include "netloom/util/pathname.h"
+#include "netloom/util/stlhelper.h"
+#include "netloom/util/strformat.h"
+#include "netloom/util/textcheck.h"
+#include "netloom/util/twfilesystem.h"
+
+// Address primitives
+#include "netloom/ipaddress.h"
+#include "netloom/ipaddress2.h"
+#include "netloom/l3packet.h"
+#include "netloom/macaddress.h"
+#include "netloom/transprotocolhelper.h"
+
+// Routing
+#include "netloom/routingcost.h"
+#include "netloom/routingtable.h"
+#include "netloom/routinghop.h"
+
+// Support services
+#include "netloom/lockmgr.h"
+#include "netloom/schemakeys.h"
+#include "netloom/topofilesystem.h"
+
+// Device tables
+#include "netloom/commontable.h"
+#include "netloom/commontablecompareresult.h"
+#include "netloom/boundinterfacetable.h"
+#include "netloom/stptable.h"
