@@ -90,6 +90,7 @@ class NETLOOM_API Value {
  public:
   using iterator = ValueIterator;
   using const_iterator = ValueConstIterator;
+  using Members = std::vector<std::string>;
 
   Value();
   Value(ValueType type);  // NOLINT: the empty value of that type
@@ -191,7 +192,7 @@ class NETLOOM_API Value {
   bool removeMember(const std::string& key);
   bool removeMember(const std::string& key, Value* removed);
   // Member names in member order; empty for a non-object.
-  std::vector<std::string> getMemberNames() const;
+  Members getMemberNames() const;
 
   // Elements of an array or members of an object, in order. Other values
   // have no elements (begin() == end()).
