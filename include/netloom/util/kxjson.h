@@ -83,6 +83,10 @@ class ValueConstIterator;
 //
 // Members of an object keep the order in which they were first added; a
 // repeated key (also in parsed text) replaces the value and keeps the place.
+// Parsed documents are at most Reader::kMaxDepth levels deep. Copying,
+// comparing, writing and destroying recurse once per level, so documents
+// built in code should stay within that depth as well.
+//
 // References returned by operator[] and append stay valid while members or
 // elements are added elsewhere in the document; removing a member or
 // assigning over a container invalidates references into it.
