@@ -40,6 +40,7 @@
 #include "netloom/commontablecompareresult.h"
 #include "netloom/boundinterfacetable.h"
 #include "netloom/stptable.h"
+#include "netloom/nattable.h"
 
 // Device access settings
 #include "netloom/accessrecords.h"
