@@ -609,9 +609,15 @@ class Builder : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, Builder> 
         }
       }
     }
-    const std::string text(s, len);
-    const double v = std::strtod(text.c_str(), nullptr);
-    if (std::isinf(v)) return false;  // beyond the range of a double
+    double v = 0;
+    auto res = std::from_chars(s, end, v);
+    if (res.ec == std::errc::result_out_of_range) {
+      // Underflow reads as zero or a denormal; overflow is refused.
+      v = std::strtod(std::string(s, len).c_str(), nullptr);
+      if (std::isinf(v)) return false;
+    } else if (res.ec != std::errc() || res.ptr != end) {
+      return false;
+    }
     return put(Value(v));
   }
   bool String(const char* s, rapidjson::SizeType len, bool) { return put(Value(s, s + len)); }
