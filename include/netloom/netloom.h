@@ -7,7 +7,9 @@
 #include "netloom/util/conf.h"
 #include "netloom/util/csvparser.h"
 #include "netloom/util/guid.h"
+#include "netloom/util/kxjson.h"
 #include "netloom/util/logger.h"
+#include "netloom/util/markup.h"
 #include "netloom/util/misc.h"
 #include "netloom/util/pathname.h"
 #include "netloom/util/stlhelper.h"
@@ -30,6 +32,7 @@
 // Support services
 #include "netloom/lockmgr.h"
 #include "netloom/schemakeys.h"
+#include "netloom/snapshotselectresult.h"
 #include "netloom/topofilesystem.h"
 
 // Device tables
@@ -38,3 +41,7 @@
 #include "netloom/boundinterfacetable.h"
 #include "netloom/stptable.h"
 #include "netloom/nattable.h"
+
+// Device access settings
+#include "netloom/accessrecords.h"
+#include "netloom/globalsetting.h"
