@@ -4,12 +4,15 @@
 #include "netloom/export.h"
 
 // Utility layer
+#include "netloom/util/aes.h"
 #include "netloom/util/conf.h"
 #include "netloom/util/csvparser.h"
 #include "netloom/util/guid.h"
+#include "netloom/util/loginscript.h"
 #include "netloom/util/logger.h"
 #include "netloom/util/misc.h"
 #include "netloom/util/pathname.h"
+#include "netloom/util/sqlite.h"
 #include "netloom/util/stlhelper.h"
 #include "netloom/util/strformat.h"
 #include "netloom/util/textcheck.h"
@@ -17,3 +20,7 @@
 
 // Support services
 #include "netloom/lockmgr.h"
+
+// Device access settings
+#include "netloom/conffilesecurity.h"
+#include "netloom/lrucache.h"
