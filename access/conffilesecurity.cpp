@@ -5,6 +5,7 @@
 #include <fstream>
 #include <sstream>
 
+#include "netloom/util/kxjson.h"
 #include "netloom/util/stlhelper.h"
 #include "netloom/util/twfilesystem.h"
 
@@ -65,6 +66,12 @@ CConfFileSecurity& CConfFileSecurity::operator=(CConfFileSecurity&& other) {
         isRemoveSecureity = other.isRemoveSecureity;
     }
     return *this;
+}
+
+bool CConfFileSecurity::LoadFromJson(const kxJson::Value& json) {
+    isRemoveSecureity = json["option"].asInt() == 1;
+    rules.clear();
+    return ParseFileString(json["content"].asString());
 }
 
 std::string CConfFileSecurity::ModifyConfigFileSecurity(const std::string& text, int type) {

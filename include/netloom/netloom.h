@@ -8,6 +8,7 @@
 #include "netloom/util/conf.h"
 #include "netloom/util/csvparser.h"
 #include "netloom/util/guid.h"
+#include "netloom/util/kxjson.h"
 #include "netloom/util/loginscript.h"
 #include "netloom/util/logger.h"
 #include "netloom/util/misc.h"
@@ -23,4 +24,5 @@
 
 // Device access settings
 #include "netloom/conffilesecurity.h"
+#include "netloom/ifnametransfermgr.h"
 #include "netloom/lrucache.h"
