@@ -2,6 +2,7 @@
 #include "netloom/conffilesecurity.h"
 
 #include <cstdlib>
+#include <cstring>
 #include <fstream>
 #include <sstream>
 
@@ -43,6 +44,15 @@ bool MarkerEndsAt(const std::string& text, const std::string& prefix, size_t pos
         if (text.compare(s, len, prefix) == 0) return s + len == pos;
     }
     return false;
+}
+
+// First occurrence of `what` at or after `from`, as std::string::find.
+// glibc's memmem skips through the text far faster than a first-character
+// scan when the keyword starts with a letter that is common in configs.
+size_t FindFrom(const std::string& text, const std::string& what, size_t from) {
+    if (from > text.size()) return std::string::npos;
+    const void* hit = ::memmem(text.data() + from, text.size() - from, what.data(), what.size());
+    return hit ? static_cast<size_t>(static_cast<const char*>(hit) - text.data()) : std::string::npos;
 }
 
 }  // namespace
@@ -107,25 +117,36 @@ std::string CConfFileSecurity::ModifyConfigFileContext1(const std::string& text,
     if (found == rules.end() || found->second.prefix.empty()) return text;
     const SecuritySetting& rule = found->second;
 
-    std::map<size_t, std::string> hits;
-    for (const std::string& item : rule.items) {
+    // Position of each hit and the index of its keyword; the replacement is
+    // built when written.
+    std::map<size_t, size_t> hits;
+    for (size_t index = 0; index < rule.items.size(); ++index) {
+        const std::string& item = rule.items[index];
         if (item.empty()) continue;
-        const std::string replacement = rule.prefix + item + " ********";
-        // The nearest non-blank character before `pos` is tracked forward
-        // as the occurrences advance, so each keyword costs one sweep of
+        // The nearest non-blank character before `pos` is looked for
+        // backwards, but never past the previous occurrence looked at: what
+        // lies before that is remembered. So a keyword costs one sweep of
         // the text even over long runs of blanks.
-        size_t scanned = 0;            // text[0, scanned) has been looked at
-        size_t lastSolid = std::string::npos;  // last non-blank in it
-        for (size_t pos = text.find(item); pos != std::string::npos;
-             pos = text.find(item, pos + item.size())) {
+        size_t floor = 0;                          // text[0, floor) is settled
+        size_t floorSolid = std::string::npos;     // last non-blank in it
+        for (size_t pos = FindFrom(text, item, 0); pos != std::string::npos;
+             pos = FindFrom(text, item, pos + item.size())) {
             bool hit = pos == 0;
             if (!hit && !MarkerEndsAt(text, rule.prefix, pos)) {
-                for (; scanned < pos; ++scanned) {
-                    if (text[scanned] != ' ' && text[scanned] != '\t') lastSolid = scanned;
+                size_t solid = std::string::npos;
+                for (size_t p = pos; p > floor;) {
+                    --p;
+                    if (text[p] != ' ' && text[p] != '\t') {
+                        solid = p;
+                        break;
+                    }
                 }
-                hit = lastSolid == std::string::npos || text[lastSolid] == '\n';
+                if (solid == std::string::npos) solid = floorSolid;
+                floor = pos;
+                floorSolid = solid;
+                hit = solid == std::string::npos || text[solid] == '\n';
             }
-            if (hit) hits.emplace(pos, replacement);
+            if (hit) hits.emplace(pos, index);
         }
     }
     if (hits.empty()) return text;
@@ -133,13 +154,14 @@ std::string CConfFileSecurity::ModifyConfigFileContext1(const std::string& text,
     std::string out;
     out.reserve(text.size() + text.size() / 8);
     size_t cursor = 0;
-    for (const auto& [pos, replacement] : hits) {
+    for (const auto& [pos, index] : hits) {
         // When a hit lies on a line an earlier hit already consumed, the
         // length wraps and the copy runs to the end of the text; stored
         // outputs depend on that, so it stays.
         out.append(text, cursor, pos - cursor);
-        out += replacement;
-        out += '\n';
+        out += rule.prefix;
+        out += rule.items[index];
+        out += " ********\n";
         const size_t eol = text.find('\n', pos + 1);
         if (eol == std::string::npos) return out;
         cursor = eol + 1;
