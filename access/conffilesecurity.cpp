@@ -2,6 +2,7 @@
 #include "netloom/conffilesecurity.h"
 
 #include <cstdlib>
+#include <algorithm>
 #include <cstring>
 #include <fstream>
 #include <sstream>
@@ -46,14 +47,35 @@ bool MarkerEndsAt(const std::string& text, const std::string& prefix, size_t pos
     return false;
 }
 
-// First occurrence of `what` at or after `from`, as std::string::find.
-// glibc's memmem skips through the text far faster than a first-character
-// scan when the keyword starts with a letter that is common in configs.
-size_t FindFrom(const std::string& text, const std::string& what, size_t from) {
-    if (from > text.size()) return std::string::npos;
-    const void* hit = ::memmem(text.data() + from, text.size() - from, what.data(), what.size());
-    return hit ? static_cast<size_t>(static_cast<const char*>(hit) - text.data()) : std::string::npos;
-}
+// Finds the occurrences of one keyword left to right, as repeated
+// std::string::find would. glibc's memmem skips through text far faster
+// than a scan for the keyword's first letter, which in configuration text
+// is a common letter more often than not. The window grows from a few
+// kilobytes while nothing is found, so a search never looks much further
+// than its answer: checked builds, which look at every byte a call is
+// given, stay linear too.
+class KeywordFinder {
+public:
+    KeywordFinder(const std::string& text, const std::string& what) : m_text(text), m_what(what) {}
+
+    size_t From(size_t from) const {
+        const size_t n = m_text.size(), k = m_what.size();
+        size_t window = std::max<size_t>(4096, 2 * k);
+        while (from < n && n - from >= k) {
+            const size_t len = std::min(window, n - from);
+            if (const void* hit = ::memmem(m_text.data() + from, len, m_what.data(), k))
+                return static_cast<size_t>(static_cast<const char*>(hit) - m_text.data());
+            if (len == n - from) break;
+            from += len - (k - 1);  // a match across the edge lies wholly in the next window
+            window *= 2;
+        }
+        return std::string::npos;
+    }
+
+private:
+    const std::string& m_text;
+    const std::string& m_what;
+};
 
 }  // namespace
 }  // namespace netloom::detail
@@ -129,8 +151,8 @@ std::string CConfFileSecurity::ModifyConfigFileContext1(const std::string& text,
         // the text even over long runs of blanks.
         size_t floor = 0;                          // text[0, floor) is settled
         size_t floorSolid = std::string::npos;     // last non-blank in it
-        for (size_t pos = FindFrom(text, item, 0); pos != std::string::npos;
-             pos = FindFrom(text, item, pos + item.size())) {
+        const KeywordFinder finder(text, item);
+        for (size_t pos = finder.From(0); pos != std::string::npos; pos = finder.From(pos + item.size())) {
             bool hit = pos == 0;
             if (!hit && !MarkerEndsAt(text, rule.prefix, pos)) {
                 size_t solid = std::string::npos;

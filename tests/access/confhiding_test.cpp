@@ -205,10 +205,24 @@ TEST(ConfHidingPass, LargeGeneratedConfigIsIdempotent) {
     CConfFileSecurity s = WithRules(RulesFile());
     std::mt19937 rng(7);
     const SecuritySetting& rule = s.Rules().at(1);
-    const std::string text = GenerateConfig(rule, 200000, rng);  // several megabytes
+    const std::string text = GenerateConfig(rule, 100000, rng);  // a few megabytes
     const std::string once = s.ModifyConfigFileSecurity(text, 1);
     EXPECT_EQ(once, ModelHide(text, rule));
     EXPECT_EQ(s.ModifyConfigFileSecurity(once, 1), once);
+}
+
+TEST(ConfHidingPass, KeywordsAcrossSearchWindowEdges) {
+    // The search reads the text in growing windows; a keyword may straddle
+    // any edge between them.
+    CConfFileSecurity s = WithRules("1|!|secret\n");
+    for (size_t at : {4090u, 4093u, 4096u, 12280u, 12283u, 12286u, 28660u, 28670u}) {
+        const std::string text = std::string(at - 1, 'a') + "\nsecret 1\n";
+        EXPECT_EQ(s.ModifyConfigFileContext1(text, 1), std::string(at - 1, 'a') + "\n!secret ********\n") << at;
+        std::string many;
+        for (int i = 0; i < 3; ++i) many += std::string(at - 1, 'b') + "\nsecret x\n";
+        const std::string once = s.ModifyConfigFileContext1(many, 1);
+        EXPECT_EQ(once.find("secret x"), std::string::npos) << at;
+    }
 }
 
 TEST(ConfHidingPass, LongBlankRunsStayLinear) {

@@ -90,6 +90,15 @@ TEST(JsonText, IntegersAtTheSixtyFourBitEdges) {
   Value small = Parse("-9223372036854775809");
   EXPECT_TRUE(small.isDouble());
 
+  // Zero with a large exponent is zero, and tiny numbers underflow to zero.
+  for (const char* zero : {"0e307", "-0e308", "0.0e100", "1e-400"}) {
+    EXPECT_EQ(Parse(zero).asDouble(), 0.0) << zero;
+  }
+  EXPECT_EQ(Parse("1.7976931348623157e308").asDouble(), std::numeric_limits<double>::max());
+  EXPECT_EQ(Parse("123456789012345678901234567890").asDouble(), 1.2345678901234568e29);
+  EXPECT_TRUE(Refused("1e400"));
+  EXPECT_TRUE(Refused("-2e308"));
+
   // Non-negative numbers that fit a signed integer parse as signed.
   EXPECT_EQ(Parse("5").type(), kxJson::intValue);
 }

@@ -83,6 +83,10 @@ class ValueConstIterator;
 //
 // Members of an object keep the order in which they were first added; a
 // repeated key (also in parsed text) replaces the value and keeps the place.
+// Parsed documents are at most Reader::kMaxDepth levels deep. Copying,
+// comparing, writing and destroying recurse once per level, so documents
+// built in code should stay within that depth as well.
+//
 // References returned by operator[] and append stay valid while members or
 // elements are added elsewhere in the document; removing a member or
 // assigning over a container invalidates references into it.
@@ -90,6 +94,7 @@ class NETLOOM_API Value {
  public:
   using iterator = ValueIterator;
   using const_iterator = ValueConstIterator;
+  using Members = std::vector<std::string>;
 
   Value();
   Value(ValueType type);  // NOLINT: the empty value of that type
@@ -191,7 +196,7 @@ class NETLOOM_API Value {
   bool removeMember(const std::string& key);
   bool removeMember(const std::string& key, Value* removed);
   // Member names in member order; empty for a non-object.
-  std::vector<std::string> getMemberNames() const;
+  Members getMemberNames() const;
 
   // Elements of an array or members of an object, in order. Other values
   // have no elements (begin() == end()).
