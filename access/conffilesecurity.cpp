@@ -1,11 +1,10 @@
 // CConfFileSecurity: the rule files, their parser and the hiding passes.
 #include "netloom/conffilesecurity.h"
 
-#include <cstdlib>
 #include <algorithm>
+#include <cstdlib>
 #include <cstring>
 #include <fstream>
-#include <sstream>
 
 #include "netloom/util/kxjson.h"
 #include "netloom/util/stlhelper.h"

@@ -8,7 +8,6 @@
 #include <cctype>
 #include <exception>
 #include <mutex>
-#include <shared_mutex>
 
 #include "netloom/lrucache.h"
 #include "netloom/util/guid.h"

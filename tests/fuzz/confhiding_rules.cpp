@@ -1,7 +1,6 @@
 // Rule text and configuration text of any bytes. Input: rules, a NUL byte,
-// then the configuration text. Every rule is applied; a keyword that does
-// not begin with a blank or tab can never make a second pass change text
-// whose marker holds no keyword.
+// then the configuration text. Every rule is applied, and for rules that
+// cannot hit their own hidden lines a second pass must change nothing.
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
@@ -11,11 +10,18 @@
 
 namespace {
 
+// Rules under which a second pass can change nothing: no keyword starts
+// with a blank or tab (two hits on one line), the marker does not start
+// with one either, and no keyword opens a hidden line, marker included.
 bool Tame(const SecuritySetting& rule) {
+    if (rule.prefix.empty() || rule.prefix[0] == ' ' || rule.prefix[0] == '\t') return false;
     for (const std::string& k : rule.items) {
-        if (!k.empty() && (k[0] == ' ' || k[0] == '\t')) return false;
-        if (!k.empty() && rule.prefix.find(k) != std::string::npos) return false;
-        if (rule.prefix.find('\n') != std::string::npos || rule.prefix.find_first_of(" \t") == 0) return false;
+        if (k.empty()) continue;
+        if (k[0] == ' ' || k[0] == '\t') return false;
+        for (const std::string& kw : rule.items) {
+            if (kw.empty()) continue;
+            if ((rule.prefix + kw + " ********").compare(0, k.size(), k) == 0) return false;
+        }
     }
     return true;
 }
