@@ -9,6 +9,7 @@
 
 #include "common/testenv.h"
 #include "netloom/conffilesecurity.h"
+#include "netloom/util/kxjson.h"
 #include "netloom/util/twfilesystem.h"
 
 // Reaches the file side, which the class keeps private.
@@ -249,6 +250,28 @@ TEST(ConfHidingLines, ReplaceItemAndVariant) {
 
     EXPECT_EQ(s.ModifyConfigFileContext2("x\r\n y password z\nsecret", 1), "x\n!password *******\n!secret *******\n");
     EXPECT_EQ(s.ModifyConfigFileContext2("x password\n", 9), "x password\n");
+}
+
+TEST(ConfHidingRules, LoadFromJsonSetsSwitchAndRules) {
+    CConfFileSecurity s = WithRules("9|!|old\n");
+    kxJson::Value json;
+    ASSERT_TRUE(kxJson::Reader().parse(R"({"option":0,"content":"1|!|secret\n2|#|key"})", json));
+    EXPECT_TRUE(s.LoadFromJson(json));
+    EXPECT_EQ(s.Rules().size(), 2u);
+    EXPECT_EQ(s.Rules().count(9), 0u);
+    EXPECT_EQ(s.ModifyConfigFileSecurity("secret x\n", 1), "secret x\n");  // switched off
+    EXPECT_EQ(s.ModifyConfigFileContext1("secret x\n", 1), "!secret ********\n");
+
+    ASSERT_TRUE(kxJson::Reader().parse(R"({"option":1,"content":"1|!|secret"})", json));
+    s.LoadFromJson(json);
+    EXPECT_EQ(s.ModifyConfigFileSecurity("secret x\n", 1), "!secret ********\n");
+    // Any other option switches hiding off; a missing content leaves no rules.
+    ASSERT_TRUE(kxJson::Reader().parse(R"({"option":2})", json));
+    s.LoadFromJson(json);
+    EXPECT_TRUE(s.Rules().empty());
+    EXPECT_EQ(s.ModifyConfigFileSecurity("secret x\n", 1), "secret x\n");
+    s.LoadFromJson(kxJson::Value());
+    EXPECT_TRUE(s.Rules().empty());
 }
 
 // ------------------------------------------------------------- the files

@@ -230,6 +230,57 @@ TEST(IfNameDb, InstanceLoadsDatabaseFromParserDataFolder) {
         ::testing::ExitedWithCode(0), "");
 }
 
+// ----------------------------------------------------- the SQLite wrapper
+
+TEST(SqliteWrapper, QueriesStatementsAndErrors) {
+    const std::string path = netloom_test::MakeTempDir("sql") + "t.db";
+    CppSQLite3DB db;
+    EXPECT_THROW(db.execDML("select 1"), CppSQLite3Exception);  // not open
+    db.open(path.c_str());
+    EXPECT_FALSE(db.tableExists("T"));
+    db.execDML("create table T (name text, n integer)");
+    EXPECT_TRUE(db.tableExists("T"));
+    EXPECT_FALSE(db.tableExists("T'; drop table T; --"));
+    CppSQLite3Statement insert = db.compileStatement("insert into T values (?, ?)");
+    insert.bind(1, std::string("a\0b", 3));
+    insert.bind(2, 7);
+    EXPECT_EQ(insert.execDML(), 1);
+    insert.bindNull(1);
+    insert.bind(2, -1);
+    EXPECT_EQ(insert.execDML(), 1);
+    EXPECT_EQ(db.execScalar("select count(*) from T"), 2);
+
+    CppSQLite3Query q = db.execQuery("select * from T order by n desc");
+    ASSERT_FALSE(q.eof());
+    EXPECT_EQ(q.numFields(), 2);
+    EXPECT_STREQ(q.fieldName(1), "n");
+    EXPECT_EQ(q.getStringField("NAME"), std::string("a\0b", 3));  // any case, NUL kept
+    EXPECT_EQ(q.getIntField("n"), 7);
+    EXPECT_THROW(q.getStringField("missing"), CppSQLite3Exception);
+    EXPECT_THROW(q.getStringField(5), CppSQLite3Exception);
+    q.nextRow();
+    ASSERT_FALSE(q.eof());
+    EXPECT_TRUE(q.fieldIsNull(0));
+    EXPECT_EQ(q.getStringField(0, "null!"), "null!");
+    q.nextRow();
+    EXPECT_TRUE(q.eof());
+    q.nextRow();  // past the end stays at the end
+    EXPECT_TRUE(q.eof());
+
+    try {
+        db.execQuery("select * from Nowhere");
+        FAIL() << "no exception";
+    } catch (const CppSQLite3Exception& e) {
+        EXPECT_NE(std::string(e.errorMessage()).find("Nowhere"), std::string::npos);
+    }
+    EXPECT_THROW(db.compileStatement("not sql"), CppSQLite3Exception);
+    db.close();
+    CppSQLite3DB missing;
+    const std::string nowhere = netloom_test::MakeTempDir("sql") + "none.db";
+    EXPECT_THROW(missing.open(nowhere.c_str(), false), CppSQLite3Exception);
+    EXPECT_FALSE(std::filesystem::exists(nowhere));
+}
+
 // ------------------------------------------------------------------ cache
 
 TEST(IfNameCache, ProcessCachePrunesAt5200) {
