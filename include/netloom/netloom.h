@@ -4,14 +4,17 @@
 #include "netloom/export.h"
 
 // Utility layer
+#include "netloom/util/aes.h"
 #include "netloom/util/conf.h"
 #include "netloom/util/csvparser.h"
 #include "netloom/util/guid.h"
 #include "netloom/util/kxjson.h"
+#include "netloom/util/loginscript.h"
 #include "netloom/util/logger.h"
 #include "netloom/util/markup.h"
 #include "netloom/util/misc.h"
 #include "netloom/util/pathname.h"
+#include "netloom/util/sqlite.h"
 #include "netloom/util/stlhelper.h"
 #include "netloom/util/strformat.h"
 #include "netloom/util/textcheck.h"
@@ -44,4 +47,8 @@
 
 // Device access settings
 #include "netloom/accessrecords.h"
+#include "netloom/conffilesecurity.h"
+#include "netloom/devicesetting.h"
 #include "netloom/globalsetting.h"
+#include "netloom/ifnametransfermgr.h"
+#include "netloom/lrucache.h"

@@ -1,0 +1,368 @@
+// Interface name normalisation: type-word extraction, lookups against the
+// shipped table and hand-made databases, which entry wins for a driver,
+// failure paths of the loaders, the cache and its pruning, and lookups from
+// several threads while the table reloads.
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <cstdlib>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "common/testenv.h"
+#include "netloom/ifnametransfermgr.h"
+#include "netloom/lrucache.h"
+#include "netloom/util/kxjson.h"
+#include "netloom/util/logger.h"
+#include "netloom/util/sqlite.h"
+#include "netloom/util/twfilesystem.h"
+
+struct IfNameTransfersMgrAccess {
+    static std::string TypeName(const std::string& name, std::string& suffix, bool lower) {
+        return IfNameTransfersMgr::Instant()->GetIfTypeName(name, suffix, lower);
+    }
+    static size_t CachedTypeCount() { return IfNameTransfersMgr::CachedTypeCount(); }
+};
+
+namespace {
+
+IfNameTransfersMgr& Mgr() { return *IfNameTransfersMgr::Instant(); }
+std::string Full(const std::string& driver, const std::string& name) {
+    return Mgr().GetFullIfNameFromPossibleName(driver, name);
+}
+
+// A database with table "InterfaceType" holding the given "data" cells
+// (nullopt stores SQL NULL).
+std::string MakeDb(const std::vector<std::optional<std::string>>& rows, const std::string& column = "data") {
+    const std::string path = netloom_test::MakeTempDir("db") + "InterfaceType.db";
+    CppSQLite3DB db;
+    db.open(path.c_str());
+    db.execDML(("create table InterfaceType (id integer primary key, " + column + " text)").c_str());
+    CppSQLite3Statement insert = db.compileStatement(("insert into InterfaceType (" + column + ") values (?)").c_str());
+    for (const auto& row : rows) {
+        if (row)
+            insert.bind(1, *row);
+        else
+            insert.bindNull(1);
+        insert.execDML();
+    }
+    return path;
+}
+
+std::string Row(const std::string& full, const std::string& names, const std::string& extra = "") {
+    return R"({"fullName":")" + full + R"(","shortName":"s","possibleNames":[)" + names + "]" + extra + "}";
+}
+
+// ------------------------------------------------------------ type words
+
+TEST(IfNameTypeWord, SplitsAtFirstDigitOrUnderscore) {
+    std::string suffix = "untouched";
+    EXPECT_EQ(IfNameTransfersMgrAccess::TypeName("Loopback", suffix, true), "Loopback");
+    EXPECT_EQ(suffix, "untouched");
+    EXPECT_EQ(IfNameTransfersMgrAccess::TypeName("Gi0/1.100", suffix, true), "gi");
+    EXPECT_EQ(suffix, "0/1.100");
+    EXPECT_EQ(IfNameTransfersMgrAccess::TypeName("  Gi \t0/1", suffix, true), "gi");
+    EXPECT_EQ(suffix, "0/1");
+    EXPECT_EQ(IfNameTransfersMgrAccess::TypeName("Port_x1", suffix, false), "Port");
+    EXPECT_EQ(suffix, "_x1");
+    EXPECT_EQ(IfNameTransfersMgrAccess::TypeName("1/0/1", suffix, true), "");
+    EXPECT_EQ(suffix, "1/0/1");
+}
+
+// ------------------------------------------------------- shipped JSON table
+
+TEST(IfNameJson, ShippedTableExpandsEveryPossibleName) {
+    ASSERT_TRUE(Mgr().LoadData());
+    const std::string text =
+        netloom_test::ReadFile(netloom_test::SourcePath("resources/MultiVendorData/InterfaceType.json"));
+    kxJson::Value root;
+    ASSERT_TRUE(kxJson::Reader().parse(text, root));
+    ASSERT_GE(root.size(), 40u);
+    for (const kxJson::Value& type : root) {
+        for (const kxJson::Value& name : type["possibleNames"]) {
+            // Upper case in, full name out: the lookup lowers the type word.
+            std::string printed = name.asString();
+            for (char& c : printed) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+            EXPECT_EQ(Full("drv", printed + "1/0/2"), type["fullName"].asString() + "1/0/2") << printed;
+        }
+    }
+}
+
+TEST(IfNameJson, CommonSpellings) {
+    ASSERT_TRUE(Mgr().LoadData());
+    EXPECT_EQ(Full("ios", "Gi0/1"), "GigabitEthernet0/1");
+    EXPECT_EQ(Full("ios", "Gi 0/1"), "GigabitEthernet0/1");
+    EXPECT_EQ(Full("ios", "gi0/1.100"), "GigabitEthernet0/1.100");
+    EXPECT_EQ(Full("ios", "Te1/1/1"), "TenGigabitEthernet1/1/1");
+    EXPECT_EQ(Full("ios", "Hu0/0/0/1"), "HundredGigE0/0/0/1");
+    EXPECT_EQ(Full("nxos", "Eth1/49"), "Ethernet1/49");
+    EXPECT_EQ(Full("ios", "Po10"), "Port-channel10");
+    EXPECT_EQ(Full("vrp", "Eth-Trunk3"), "Eth-Trunk3");
+    EXPECT_EQ(Full("vrp", "XGE0/0/1"), "XGigabitEthernet0/0/1");
+    EXPECT_EQ(Full("xr", "BE100"), "Bundle-Ether100");
+    EXPECT_EQ(Full("ios", "Lo0"), "Loopback0");
+    EXPECT_EQ(Full("ios", "Vl20"), "Vlan20");
+    EXPECT_EQ(Full("ios", "Se0/0/0:1"), "Serial0/0/0:1");
+    EXPECT_EQ(Full("ios", "mgmt"), "mgmt");  // no digit: the whole name is the type word
+    // Unknown, empty driver, leading digit, unlowered digitless word: unchanged.
+    EXPECT_EQ(Full("ios", "Frobnicator7"), "Frobnicator7");
+    EXPECT_EQ(Full("", "Gi0/1"), "Gi0/1");
+    EXPECT_EQ(Full("ios", "100GE1/0/1"), "100GE1/0/1");
+    EXPECT_EQ(Full("ios", "MGMT"), "MGMT");
+    EXPECT_EQ(Full("ios", ""), "");
+}
+
+// ---------------------------------------------------- databases and drivers
+
+TEST(IfNameDb, DriverEntriesWinAsTheWalkOrders) {
+    // Key order is (possibleNames, excludeDriverIds, driverIds):
+    //   ({x},{},{})  <  ({x},{},{d1})  <  ({x},{d2},{})
+    //   ({a,y},{},{}) < ({y},{},{d1})  <  ({y},{zz},{})
+    const std::string path = MakeDb({
+        Row("AllX", R"("x")"),
+        Row("D1X", R"("x")", R"(,"driverIds":["d1"])"),
+        Row("NotD2X", R"("x")", R"(,"excludeDriverIds":["d2"])"),
+        Row("AllAY", R"("a","y")"),
+        Row("D1Y", R"("y")", R"(,"driverIds":["d1"])"),
+        Row("LateY", R"("y")", R"(,"excludeDriverIds":["zz"])"),
+    });
+    ASSERT_TRUE(Mgr().LoadDataFromDB("", path));
+    // An all-drivers entry before a driver's own entry is overridden by it.
+    EXPECT_EQ(Full("d1", "x1"), "D1X1");
+    // Without an own entry, the last all-drivers match wins...
+    EXPECT_EQ(Full("d3", "x1"), "NotD2X1");
+    // ...unless that one excludes the driver.
+    EXPECT_EQ(Full("d2", "x1"), "AllX1");
+    // A driver's own entry stops the walk before a later all-drivers entry.
+    EXPECT_EQ(Full("d1", "y1"), "D1Y1");
+    EXPECT_EQ(Full("d5", "y1"), "LateY1");
+    EXPECT_EQ(Full("zz", "y1"), "AllAY1");
+}
+
+TEST(IfNameDb, RowsOfAnyShape) {
+    const std::string path = MakeDb({
+        std::nullopt,
+        std::string("not json at all"),
+        std::string("[1,2,3]"),
+        std::string("{\"possibleNames\":\"gi\",\"fullName\":\"Str\",\"shortName\":\"s\"}"),
+        std::string("\xff\xfe\x00{", 4),
+        std::string("{\"fullName\":\"NoShort\",\"possibleNames\":[\"ns\"]}"),
+        Row("First", R"("dup")"),
+        Row("Second", R"("dup")"),  // same key: replaces
+        Row("Good", R"("good")", R"(,"bandwidth":"oops","isWan":[1],"delay":{"a":1})"),
+    });
+    ASSERT_TRUE(Mgr().LoadDataFromDB("", path));
+    EXPECT_EQ(Full("d", "gi1"), "gi1");    // possibleNames not an array: matches nothing
+    EXPECT_EQ(Full("d", "ns1"), "ns1");    // no short name: not expanded
+    EXPECT_EQ(Full("d", "dup1"), "Second1");
+    EXPECT_EQ(Full("d", "good1"), "Good1");
+}
+
+TEST(IfNameDb, FailuresAreReportedAndLogged) {
+    ASSERT_TRUE(Mgr().LoadData());
+    std::vector<std::string> logged;
+    ILogger::GetInstance()->SetObserver(
+        [&](ELogLevel level, const std::string&, const std::string& function, const std::string& message) {
+            if (level == LOG_ERROR && function == "IfNameTransfersMgr::LoadDataFromDB") logged.push_back(message);
+        });
+
+    // Missing file: false, nothing created, table as it was.
+    const std::string missing = netloom_test::MakeTempDir("nodb") + "InterfaceType.db";
+    EXPECT_FALSE(Mgr().LoadDataFromDB("", missing));
+    EXPECT_FALSE(std::filesystem::exists(missing));
+    EXPECT_EQ(Full("d", "Gi1"), "GigabitEthernet1");
+    ASSERT_EQ(logged.size(), 2u);
+    EXPECT_EQ(logged[0], "FS_GoldenBaseline operate failed.");
+    EXPECT_EQ(logged[1].rfind("sqlite exception in rw:", 0), 0u);
+
+    // Not a database at all.
+    const std::string junk = netloom_test::WriteFile(netloom_test::MakeTempDir("junk") + "InterfaceType.db",
+                                                     std::string(4096, '\x5a'));
+    EXPECT_FALSE(Mgr().LoadDataFromDB("", junk));
+    EXPECT_EQ(Full("d", "Gi1"), "GigabitEthernet1");
+
+    // A database without the table.
+    {
+        const std::string path = netloom_test::MakeTempDir("other") + "InterfaceType.db";
+        CppSQLite3DB db;
+        db.open(path.c_str());
+        db.execDML("create table Other (data text)");
+        db.close();
+        EXPECT_FALSE(Mgr().LoadDataFromDB("", path));
+        EXPECT_EQ(Full("d", "Gi1"), "GigabitEthernet1");
+    }
+
+    // The table without the column: the failure comes while rows are read,
+    // so the table is left as far as it got (emptied).
+    logged.clear();
+    EXPECT_FALSE(Mgr().LoadDataFromDB("", MakeDb({Row("X", R"("x")")}, "payload")));
+    EXPECT_EQ(Full("d", "Gi1"), "Gi1");
+    ASSERT_FALSE(logged.empty());
+    ILogger::GetInstance()->SetObserver(nullptr);
+}
+
+TEST(IfNameDb, LoadingForgetsCachedMisses) {
+    ASSERT_TRUE(Mgr().LoadDataFromDB("", MakeDb({})));
+    EXPECT_EQ(Full("d", "Gi0/1"), "Gi0/1");  // a cached "unknown"
+    EXPECT_EQ(Full("d", "Gi0/1"), "Gi0/1");
+    ASSERT_TRUE(Mgr().LoadData());
+    EXPECT_EQ(Full("d", "Gi0/1"), "GigabitEthernet0/1");
+}
+
+TEST(IfNameDb, InstanceLoadsDatabaseFromParserDataFolder) {
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    EXPECT_EXIT(
+        {
+            const std::string path = TWFileSystem::GetFSParserDataFolder() + "InterfaceType.db";
+            CppSQLite3DB db;
+            db.open(path.c_str());
+            db.execDML("create table InterfaceType (data text)");
+            db.execDML(("insert into InterfaceType values ('" + Row("Widget", R"("wd")") + "')").c_str());
+            db.close();
+            const bool ok = Full("d", "wd9") == "Widget9";
+            std::error_code ec;
+            std::filesystem::remove_all(netloom_test::ScratchDir(), ec);
+            std::exit(ok ? 0 : 1);
+        },
+        ::testing::ExitedWithCode(0), "");
+}
+
+// ----------------------------------------------------- the SQLite wrapper
+
+TEST(SqliteWrapper, QueriesStatementsAndErrors) {
+    const std::string path = netloom_test::MakeTempDir("sql") + "t.db";
+    CppSQLite3DB db;
+    EXPECT_THROW(db.execDML("select 1"), CppSQLite3Exception);  // not open
+    db.open(path.c_str());
+    EXPECT_FALSE(db.tableExists("T"));
+    db.execDML("create table T (name text, n integer)");
+    EXPECT_TRUE(db.tableExists("T"));
+    EXPECT_FALSE(db.tableExists("T'; drop table T; --"));
+    CppSQLite3Statement insert = db.compileStatement("insert into T values (?, ?)");
+    insert.bind(1, std::string("a\0b", 3));
+    insert.bind(2, 7);
+    EXPECT_EQ(insert.execDML(), 1);
+    insert.bindNull(1);
+    insert.bind(2, -1);
+    EXPECT_EQ(insert.execDML(), 1);
+    EXPECT_EQ(db.execScalar("select count(*) from T"), 2);
+
+    CppSQLite3Query q = db.execQuery("select * from T order by n desc");
+    ASSERT_FALSE(q.eof());
+    EXPECT_EQ(q.numFields(), 2);
+    EXPECT_STREQ(q.fieldName(1), "n");
+    EXPECT_EQ(q.getStringField("NAME"), std::string("a\0b", 3));  // any case, NUL kept
+    EXPECT_EQ(q.getIntField("n"), 7);
+    EXPECT_THROW(q.getStringField("missing"), CppSQLite3Exception);
+    EXPECT_THROW(q.getStringField(5), CppSQLite3Exception);
+    q.nextRow();
+    ASSERT_FALSE(q.eof());
+    EXPECT_TRUE(q.fieldIsNull(0));
+    EXPECT_EQ(q.getStringField(0, "null!"), "null!");
+    q.nextRow();
+    EXPECT_TRUE(q.eof());
+    q.nextRow();  // past the end stays at the end
+    EXPECT_TRUE(q.eof());
+
+    try {
+        db.execQuery("select * from Nowhere");
+        FAIL() << "no exception";
+    } catch (const CppSQLite3Exception& e) {
+        EXPECT_NE(std::string(e.errorMessage()).find("Nowhere"), std::string::npos);
+    }
+    EXPECT_THROW(db.compileStatement("not sql"), CppSQLite3Exception);
+    db.close();
+    CppSQLite3DB missing;
+    const std::string nowhere = netloom_test::MakeTempDir("sql") + "none.db";
+    EXPECT_THROW(missing.open(nowhere.c_str(), false), CppSQLite3Exception);
+    EXPECT_FALSE(std::filesystem::exists(nowhere));
+}
+
+// ------------------------------------------------------------------ cache
+
+TEST(IfNameCache, ProcessCachePrunesAt5200) {
+    ASSERT_TRUE(Mgr().LoadData());  // empties the cache
+    EXPECT_EQ(IfNameTransfersMgrAccess::CachedTypeCount(), 0u);
+    for (int i = 0; i < 5199; ++i) Full("driver" + std::to_string(i), "Gi0/1");
+    EXPECT_EQ(IfNameTransfersMgrAccess::CachedTypeCount(), 5199u);
+    Full("driver-last", "Gi0/1");
+    EXPECT_EQ(IfNameTransfersMgrAccess::CachedTypeCount(), 5000u);
+    // Answers stay right after the purge, for kept and dropped keys alike.
+    EXPECT_EQ(Full("driver0", "Gi0/1"), "GigabitEthernet0/1");
+    EXPECT_EQ(Full("driver5198", "Gi0/1"), "GigabitEthernet0/1");
+}
+
+TEST(LruCache, PrunesOldestInBulkAndKeepsFirstValue) {
+    lru::Cache<int, int, lru::ThreadLock> cache(5000, 200);
+    for (int i = 0; i < 5199; ++i) cache.insert(i, i * 10);
+    int v = 0;
+    ASSERT_TRUE(cache.get(0, v));  // 0 becomes the newest
+    cache.insert(1, -1);           // known: only refreshed, value kept
+    ASSERT_TRUE(cache.get(1, v));
+    EXPECT_EQ(v, 10);
+    EXPECT_EQ(cache.size(), 5199u);
+    cache.insert(5199, 0);  // the 5,200th key
+    EXPECT_EQ(cache.size(), 5000u);
+    // The 200 oldest went: 2..201; 0 and 1 were used recently and stay.
+    EXPECT_TRUE(cache.contains(0));
+    EXPECT_TRUE(cache.contains(1));
+    EXPECT_FALSE(cache.contains(2));
+    EXPECT_FALSE(cache.contains(201));
+    EXPECT_TRUE(cache.contains(202));
+    EXPECT_FALSE(cache.get(2, v));
+    cache.clear();
+    EXPECT_EQ(cache.size(), 0u);
+}
+
+TEST(LruCache, NoLimitAndExpiry) {
+    lru::Cache<int, int> unbounded(0, 0);
+    for (int i = 0; i < 20000; ++i) unbounded.insert(i, i);
+    EXPECT_EQ(unbounded.size(), 20000u);
+
+    lru::Cache<int, int> expiring(10, 0, 1);
+    expiring.insert(1, 1);
+    int v = 0;
+    EXPECT_TRUE(expiring.get(1, v));
+    std::this_thread::sleep_for(std::chrono::milliseconds(2100));
+    EXPECT_FALSE(expiring.get(1, v));
+    EXPECT_FALSE(expiring.contains(1));
+}
+
+// ------------------------------------------------------------ concurrency
+
+TEST(IfNameConcurrency, LookupsWhileReloading) {
+    ASSERT_TRUE(Mgr().LoadData());
+    const std::pair<const char*, const char*> cases[] = {
+        {"Gi0/1", "GigabitEthernet0/1"}, {"te1/1", "TenGigabitEthernet1/1"}, {"Po7", "Port-channel7"},
+        {"Lo0", "Loopback0"},           {"Nope3", "Nope3"},                  {"Vl9", "Vlan9"}};
+    std::atomic<bool> stop{false};
+    std::atomic<long> wrong{0}, done{0};
+    std::vector<std::thread> readers;
+    for (int t = 0; t < 4; ++t) {
+        readers.emplace_back([&, t] {
+            for (int i = 0; i < 20000; ++i) {
+                const auto& [in, want] = cases[(i + t) % 6];
+                // Distinct drivers now and then, so misses keep reaching the table.
+                const std::string driver = "d" + std::to_string((i * 7 + t) % 300);
+                if (Full(driver, in) != want) ++wrong;
+                ++done;
+            }
+        });
+    }
+    std::thread loader([&] {
+        while (!stop) {
+            Mgr().LoadData();
+            std::this_thread::yield();
+        }
+    });
+    for (auto& r : readers) r.join();
+    stop = true;
+    loader.join();
+    EXPECT_EQ(done.load(), 80000);
+    EXPECT_EQ(wrong.load(), 0);
+}
+
+}  // namespace
