@@ -12,8 +12,13 @@
 #include "netloom/util/pathname.h"
 #include "netloom/util/stlhelper.h"
 #include "netloom/util/strformat.h"
+#include "netloom/util/taskpool.h"
 #include "netloom/util/textcheck.h"
 #include "netloom/util/twfilesystem.h"
 
 // Support services
 #include "netloom/lockmgr.h"
+
+// Python bridge
+#include "netloom/pythonutil.h"
+#include "netloom/twp3pythontaskpool.h"
