@@ -14,7 +14,12 @@ namespace {
 class Lifecycle : public ::testing::Test {
  protected:
   void SetUp() override { m_record = pytest::PrepareEnvironment(); }
-  void TearDown() override { pythonlib_destroy(); }
+  void TearDown() override {
+    pythonlib_destroy();
+    for (const char* name : {"procedure3.ini", "fix_procedure3.ini", "livesetting.ini"}) {
+      std::filesystem::remove(TWFileSystem::GetSystemConfFolder() + name);
+    }
+  }
   std::string m_record;
 };
 
