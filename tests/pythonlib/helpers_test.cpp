@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <ctime>
+#include <thread>
 
+#include "netloom/lockmgr.h"
 #include "pythonlib/pyharness.h"
 
 namespace {
@@ -193,6 +195,43 @@ TEST_F(Helpers, CreatesDeviceFromFirstModuleThatHasOne) {
   Py_DECREF(device);
   PyDict_DelItemString(PyImport_GetModuleDict(), "probe");
   Py_DECREF(module);
+}
+
+TEST_F(Helpers, LockScopesAreTracedByTheirId) {
+  CLockMgr::Instance()->SetRun(true);
+  void* key = reinterpret_cast<void*>(static_cast<std::intptr_t>(4321));
+  {
+    PyThreadStateLock outer(4321, "driver.cpp", 12);
+    {
+      PyThreadStateLock inner(4321, "other.cpp", 99);
+      const CLockInfo info = CLockMgr::Instance()->GetInfo(key);
+      EXPECT_EQ(info.fileName, "driver.cpp");
+      EXPECT_EQ(info.line, 12);
+      EXPECT_EQ(info.times, 2);
+    }
+    EXPECT_EQ(CLockMgr::Instance()->GetInfo(key).times, 1);
+    PyErr_SetString(PyExc_RuntimeError, "left behind");
+    testing::internal::CaptureStderr();
+  }
+  const std::string printed = testing::internal::GetCapturedStderr();
+  EXPECT_NE(printed.find("RuntimeError: left behind"), std::string::npos) << printed;
+  EXPECT_EQ(CLockMgr::Instance()->GetInfo(key).times, 0);
+  CLockMgr::Instance()->SetRun(false);
+  PyThreadStateLock after(0, __FILE__, __LINE__);
+  EXPECT_FALSE(PyErr_Occurred());
+}
+
+TEST_F(Helpers, SavedThreadLetsOthersIn) {
+  PyThreadStateLock lock(0, __FILE__, __LINE__);
+  PyThreadState* mine = PyThreadState_Get();
+  std::string seen;
+  {
+    CSavePythonThread released;
+    std::thread other([&] { seen = pytest::Eval("'in'"); });  // would wait for ever otherwise
+    other.join();
+  }
+  EXPECT_EQ(seen, "in");
+  EXPECT_EQ(PyThreadState_Get(), mine);
 }
 
 TEST(QuotedNames, IsInStringIsTrueOutsideQuotes) {

@@ -286,3 +286,46 @@ TEST_F(SubInterpreters, WorkersBeginWhileStarterRunsPython) {
 }
 
 }  // namespace
+
+#include "netloom/util/logger.h"
+
+namespace {
+
+TEST_F(SubInterpreters, WorkersLogTheirInterpreters) {
+  struct Record {
+    ELogLevel level;
+    std::string category, function, message;
+  };
+  std::mutex m;
+  std::vector<Record> records;
+  ILogger::GetInstance()->SetObserver(
+      [&](ELogLevel level, const std::string& category, const std::string& function, const std::string& message) {
+        std::lock_guard<std::mutex> lock(m);
+        records.push_back({level, category, function, message});
+      });
+  ASSERT_TRUE(pythonlib_init_ex(nullptr, 3, 3));
+  pythonlib_destroy();
+  ILogger::GetInstance()->SetObserver(nullptr);
+
+  int begins = 0, ends = 0;
+  for (const Record& r : records) {
+    EXPECT_EQ(r.category, "TWP3Python");
+    if (r.message == "Py_NewInterpreter Begin\n" || r.message == "Py_NewInterpreter End\n") {
+      EXPECT_EQ(r.function, "CTWP3PythonTaskPool::OnThreadBegin");
+      EXPECT_EQ(r.level, LOG_TRACE);
+      begins += r.message == "Py_NewInterpreter Begin\n";
+    } else {
+      EXPECT_EQ(r.message, "Py_EndInterpreter End\n");
+      EXPECT_EQ(r.function, "CTWP3PythonTaskPool::OnThreadEnd");
+      EXPECT_EQ(r.level, LOG_DEBUG);
+      ++ends;
+    }
+  }
+  EXPECT_EQ(begins, 3);
+  EXPECT_EQ(ends, 3);
+  ASSERT_GE(records.size(), 2u);
+  EXPECT_EQ(records[0].message, "Py_NewInterpreter Begin\n");
+  EXPECT_EQ(records[1].message, "Py_NewInterpreter End\n");  // workers begin one at a time
+}
+
+}  // namespace
