@@ -186,9 +186,8 @@ bool pythonlib_init_ex(const char* logFolder, int initThreads, int maxThreads) {
   python_launch_state = PyThreadState_New(PyInterpreterState_Main());
   python_main_state = PyEval_SaveThread();
 
-  python_text_capacity = 1024;
-  python_text_buffer = static_cast<char*>(std::malloc(python_text_capacity));
-  python_text_buffer[0] = '\0';
+  python_text_buffer = static_cast<char*>(std::malloc(1024));
+  python_text_capacity = python_text_buffer ? 1024 : 0;
 
   python_inited = true;
   pythonlib_init_func(logFolder);
@@ -362,6 +361,11 @@ const char* PyObject_AsString(void* obj) {
     std::free(python_text_buffer);
     python_text_capacity = std::max(need, python_text_capacity);
     python_text_buffer = static_cast<char*>(std::malloc(python_text_capacity));
+    if (!python_text_buffer) {
+      python_text_capacity = 0;
+      Py_XDECREF(encoded);
+      return "";
+    }
   }
   std::size_t n = std::min(static_cast<std::size_t>(size), static_cast<std::size_t>(length));
   if (n < static_cast<std::size_t>(size)) {
