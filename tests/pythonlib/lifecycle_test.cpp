@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <thread>
 
 #include "common/testenv.h"
 #include "netloom/util/twfilesystem.h"
@@ -149,6 +150,43 @@ TEST_F(Lifecycle, DirectorySetKeepsEachDirectoryOnce) {
   ASSERT_TRUE(pytest::Exec("sys.path.append(" + Quoted(foreign) + ")"));
   EXPECT_TRUE(pythonlib_remove_directory(foreign));
   EXPECT_EQ(CountOnPath(foreign), 1);
+}
+
+}  // namespace
+
+namespace {
+
+TEST_F(Lifecycle, FailingPythonSideIsPrintedAndCleared) {
+  ::setenv("TARNWICK_RAISE", "pythonlib_init,remove_module,pythonlib_clear", 1);
+  testing::internal::CaptureStderr();
+  ASSERT_TRUE(pythonlib_init_ex(nullptr, 2, 2));
+  pythonlib_reomve_module("json");
+  EXPECT_EQ(pytest::Eval("'ok'"), "ok");
+  pythonlib_destroy();
+  const std::string err = testing::internal::GetCapturedStderr();
+  ::unsetenv("TARNWICK_RAISE");
+  // Once for the main interpreter, once per worker.
+  size_t refusals = 0;
+  for (size_t at = err.find("pythonlib_init refused"); at != std::string::npos;
+       at = err.find("pythonlib_init refused", at + 1)) {
+    ++refusals;
+  }
+  EXPECT_EQ(refusals, 3u) << err;
+  EXPECT_NE(err.find("RuntimeError: remove_module refused"), std::string::npos) << err;
+  EXPECT_NE(err.find("RuntimeError: pythonlib_clear refused"), std::string::npos) << err;
+  EXPECT_EQ(pytest::RecordedCalls(m_record).size(), 5u);
+}
+
+// A host may start on one thread and stop on another.
+TEST_F(Lifecycle, StartAndStopOnDifferentThreads) {
+  for (int round = 0; round < 3; ++round) {
+    std::thread starter([] { ASSERT_TRUE(pythonlib_init_ex(nullptr, 2, 2)); });
+    starter.join();
+    EXPECT_EQ(pytest::Eval("7 * 6"), "42");
+    std::thread stopper([] { pythonlib_destroy(); });
+    stopper.join();
+    EXPECT_FALSE(pythonlib_is_inited());
+  }
 }
 
 }  // namespace
