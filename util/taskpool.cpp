@@ -43,8 +43,9 @@ bool CTWTaskPool::InitPool(int initCount, int maxCount) {
   m_dropQueued = false;
   m_started = 0;
   m_maxThreads = maximum;
-  for (std::size_t i = 0; i < initial; ++i) StartWorkerLocked();
-  m_workerReady.wait(lock, [&] { return m_started >= initial || m_stopping; });
+  std::size_t spawned = 0;
+  for (std::size_t i = 0; i < initial; ++i) spawned += StartWorkerLocked() ? 1 : 0;
+  m_workerReady.wait(lock, [&] { return m_started >= spawned || m_stopping; });
   return true;
 }
 
@@ -107,13 +108,15 @@ std::size_t CTWTaskPool::GetQueuedCount() const {
   return m_queue.size();
 }
 
-void CTWTaskPool::StartWorkerLocked() {
+bool CTWTaskPool::StartWorkerLocked() {
   ++m_alive;
   try {
     m_threads.emplace_back([this] { WorkerMain(); });
+    return true;
   } catch (...) {
     // No thread to be had: the workers already running take the queue.
     --m_alive;
+    return false;
   }
 }
 

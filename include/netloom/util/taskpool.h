@@ -72,7 +72,7 @@ class NETLOOM_API CTWTaskPool {
 
  private:
   void WorkerMain();
-  void StartWorkerLocked();
+  bool StartWorkerLocked();
   static void JoinAll(std::vector<std::thread>& threads);
 
   mutable std::mutex m_mutex;
