@@ -256,7 +256,9 @@ bool pythonlib_remove_directory(const std::string& dir) {
 
 void pythonlib_reomve_module(const std::string& name) {
   PyThreadStateLock lock(5, __FILE__, __LINE__);
-  CallInitModule("remove_module", Py_BuildValue("(s#)", name.data(), static_cast<Py_ssize_t>(name.size())));
+  // A name that is not UTF-8 fails here, and the guard prints why.
+  PyObject* args = Py_BuildValue("(s#)", name.data(), static_cast<Py_ssize_t>(name.size()));
+  if (args) CallInitModule("remove_module", args);
 }
 
 void pythonlib_clear_func() {

@@ -103,6 +103,9 @@ TEST_F(Lifecycle, PythonSideStartUpRunsInEveryInterpreter) {
   std::sort(interpreters.begin(), interpreters.end());
   EXPECT_EQ(std::unique(interpreters.begin(), interpreters.end()), interpreters.end());
 
+  testing::internal::CaptureStderr();
+  pythonlib_reomve_module("bad\xff");  // not UTF-8: reported, never sent
+  EXPECT_NE(testing::internal::GetCapturedStderr().find("UnicodeDecodeError"), std::string::npos);
   pythonlib_reomve_module("tarnwick.sysext");
   EXPECT_EQ(pytest::Eval("'tarnwick.sysext' in sys.modules"), "False");
   pythonlib_destroy();
