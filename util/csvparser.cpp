@@ -151,6 +151,12 @@ void CSVLineParser::ParseLine(const std::string& line) {
 }
 
 void CSVLineParser::WriteToStream(std::ostream& out) const {
+  // A lone empty cell would be a blank line, which reads back as a row of no
+  // cells; quoting it keeps the row.
+  if (m_fields.size() == 1 && m_fields[0].empty()) {
+    out.write("\"\"\n", 3);
+    return;
+  }
   for (size_t i = 0; i < m_fields.size(); ++i) {
     if (i) out.put(m_delim);
     WriteField(out, m_fields[i], m_delim);
@@ -229,7 +235,12 @@ bool CSVParser::Load(const std::string& text) {
 
 bool CSVParser::LoadFromStream(std::istream& in) {
   m_rows.clear();
-  if (!in) return false;
+  // The parser holds the whole file, whatever its reader already took: a table
+  // reads its header row by row and then loads everything, header included.
+  in.clear();
+  in.seekg(0, std::ios::beg);
+  if (!in) in.clear();  // not seekable: read on from where it stands
+  if (!in.good()) return false;
   CSVLineParser line(m_delimText);
   while (line.ReadFromStream(in)) m_rows.push_back(line);
   return true;

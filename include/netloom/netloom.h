@@ -16,8 +16,29 @@
 #include "netloom/util/textcheck.h"
 #include "netloom/util/twfilesystem.h"
 
+// Address primitives
+#include "netloom/ipaddress.h"
+#include "netloom/ipaddress2.h"
+#include "netloom/l3packet.h"
+#include "netloom/macaddress.h"
+#include "netloom/transprotocolhelper.h"
+
+// Routing
+#include "netloom/routingcost.h"
+#include "netloom/routingtable.h"
+#include "netloom/routinghop.h"
+
 // Support services
 #include "netloom/lockmgr.h"
+#include "netloom/schemakeys.h"
+#include "netloom/topofilesystem.h"
+
+// Device tables
+#include "netloom/commontable.h"
+#include "netloom/commontablecompareresult.h"
+#include "netloom/boundinterfacetable.h"
+#include "netloom/stptable.h"
+#include "netloom/nattable.h"
 
 // Python bridge
 #include "netloom/pythonutil.h"
