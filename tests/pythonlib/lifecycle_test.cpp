@@ -155,9 +155,6 @@ TEST_F(Lifecycle, DirectorySetKeepsEachDirectoryOnce) {
   EXPECT_EQ(CountOnPath(foreign), 1);
 }
 
-}  // namespace
-
-namespace {
 
 TEST_F(Lifecycle, FailingPythonSideIsPrintedAndCleared) {
   ::setenv("TARNWICK_RAISE", "pythonlib_init,remove_module,pythonlib_clear", 1);

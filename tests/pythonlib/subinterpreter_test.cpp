@@ -10,6 +10,7 @@
 #include <thread>
 
 #include "common/testenv.h"
+#include "netloom/util/logger.h"
 #include "netloom/util/twfilesystem.h"
 #include "pythonlib/pyharness.h"
 
@@ -251,9 +252,6 @@ TEST_F(SubInterpreters, FiftyStartStopCyclesInOneProcess) {
   }
 }
 
-}  // namespace
-
-namespace {
 
 // Workers that begin while the thread that started the interpreter keeps
 // entering Python: the lock a beginning worker takes must never look, to
@@ -285,11 +283,6 @@ TEST_F(SubInterpreters, WorkersBeginWhileStarterRunsPython) {
   }
 }
 
-}  // namespace
-
-#include "netloom/util/logger.h"
-
-namespace {
 
 TEST_F(SubInterpreters, WorkersLogTheirInterpreters) {
   struct Record {
