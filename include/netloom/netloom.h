@@ -17,6 +17,7 @@
 #include "netloom/util/sqlite.h"
 #include "netloom/util/stlhelper.h"
 #include "netloom/util/strformat.h"
+#include "netloom/util/taskpool.h"
 #include "netloom/util/textcheck.h"
 #include "netloom/util/twfilesystem.h"
 
@@ -52,3 +53,6 @@
 #include "netloom/globalsetting.h"
 #include "netloom/ifnametransfermgr.h"
 #include "netloom/lrucache.h"
+// Python bridge
+#include "netloom/pythonutil.h"
+#include "netloom/twp3pythontaskpool.h"

@@ -1,0 +1,2 @@
+# Stand-in for the platform's driver package, as far as the library's tests
+# need it.
