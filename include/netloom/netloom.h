@@ -15,5 +15,11 @@
 #include "netloom/util/textcheck.h"
 #include "netloom/util/twfilesystem.h"
 
+// Device data tables
+#include "netloom/arptable.h"
+#include "netloom/cdptable.h"
+#include "netloom/commontablecompareresult.h"
+#include "netloom/mactable.h"
+
 // Support services
 #include "netloom/lockmgr.h"
