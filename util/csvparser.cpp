@@ -151,6 +151,12 @@ void CSVLineParser::ParseLine(const std::string& line) {
 }
 
 void CSVLineParser::WriteToStream(std::ostream& out) const {
+  // A lone empty cell would be a blank line, which reads back as a row of no
+  // cells; quoting it keeps the row.
+  if (m_fields.size() == 1 && m_fields[0].empty()) {
+    out.write("\"\"\n", 3);
+    return;
+  }
   for (size_t i = 0; i < m_fields.size(); ++i) {
     if (i) out.put(m_delim);
     WriteField(out, m_fields[i], m_delim);

@@ -11,9 +11,12 @@
 #include <iterator>
 #include <sstream>
 
+#include "netloom/schemakeys.h"
+
 namespace StlHelper {
 
-const std::string kDefaultLineEnds = "\r\n[\r][\n]";
+// Binding a reference is constant initialisation: safe in any start-up order.
+const std::string& kDefaultLineEnds = netloom::schema::text::LineEndPattern;
 
 std::string trump(const std::string& text) {
   return boost::algorithm::trim_copy_if(text, boost::algorithm::is_any_of(" \t\r\n\v\f"));

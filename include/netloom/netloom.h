@@ -15,6 +15,13 @@
 #include "netloom/util/textcheck.h"
 #include "netloom/util/twfilesystem.h"
 
+// Address primitives
+#include "netloom/ipaddress.h"
+
+// Routing
+#include "netloom/routingcost.h"
+#include "netloom/routingtable.h"
+
 // Device data tables
 #include "netloom/arptable.h"
 #include "netloom/cdptable.h"
@@ -23,3 +30,5 @@
 
 // Support services
 #include "netloom/lockmgr.h"
+#include "netloom/schemakeys.h"
+#include "netloom/topofilesystem.h"

@@ -13,8 +13,10 @@
 
 namespace StlHelper {
 
-// The default line ends of splitStringToLines: CR LF, then a lone CR, then a lone LF.
-NETLOOM_API extern const std::string kDefaultLineEnds;  // "\r\n[\r][\n]"
+// The default line ends of splitStringToLines: CR LF, then a lone CR, then a
+// lone LF. The text itself is netloom::schema::text::LineEndPattern; this is
+// another name for that one object.
+NETLOOM_API extern const std::string& kDefaultLineEnds;  // "\r\n[\r][\n]"
 
 // Copy of `text` without leading and trailing white space (" \t\r\n\v\f").
 NETLOOM_API std::string trump(const std::string& text);
