@@ -17,18 +17,27 @@
 
 // Address primitives
 #include "netloom/ipaddress.h"
+#include "netloom/ipaddress2.h"
+#include "netloom/l3packet.h"
+#include "netloom/macaddress.h"
+#include "netloom/transprotocolhelper.h"
 
 // Routing
 #include "netloom/routingcost.h"
 #include "netloom/routingtable.h"
-
-// Device data tables
-#include "netloom/arptable.h"
-#include "netloom/cdptable.h"
-#include "netloom/commontablecompareresult.h"
-#include "netloom/mactable.h"
+#include "netloom/routinghop.h"
 
 // Support services
 #include "netloom/lockmgr.h"
 #include "netloom/schemakeys.h"
 #include "netloom/topofilesystem.h"
+
+// Device tables
+#include "netloom/commontable.h"
+#include "netloom/commontablecompareresult.h"
+#include "netloom/boundinterfacetable.h"
+#include "netloom/stptable.h"
+#include "netloom/nattable.h"
+#include "netloom/arptable.h"
+#include "netloom/mactable.h"
+#include "netloom/cdptable.h"
