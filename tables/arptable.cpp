@@ -24,7 +24,7 @@
 
 namespace {
 
-using namespace netloom::detail;
+using namespace netloom::detail::table;
 
 const char* const kVersion = "version:1.0";
 const char* const kHostTag = "hostname:";

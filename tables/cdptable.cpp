@@ -19,7 +19,7 @@
 
 namespace {
 
-using namespace netloom::detail;
+using namespace netloom::detail::table;
 
 const char* const kVersion = "version:100";
 const char* const kNameTag = "name:";

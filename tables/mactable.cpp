@@ -17,7 +17,7 @@
 #include "netloom/util/twfilesystem.h"
 #include "tables/tablefile.h"
 
-namespace netloom::detail {
+namespace netloom::detail::table {
 
 constexpr unsigned int kNoVlan = 0x1000000;
 
@@ -40,11 +40,11 @@ std::string MacText(int64_t mac, bool dotted) {
   return out;
 }
 
-}  // namespace netloom::detail
+}  // namespace netloom::detail::table
 
 namespace {
 
-using namespace netloom::detail;
+using namespace netloom::detail::table;
 
 const char* const kVersion = "version:1.0";
 const char* const kHostTag = "hostname:";

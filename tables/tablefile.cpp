@@ -8,14 +8,9 @@
 #include <cstdlib>
 #include <ctime>
 
-#if __has_include("netloom/ipaddress.h")
 #include "netloom/ipaddress.h"
-#define NETLOOM_HAVE_IPADDRESS 1
-#else
-#include "netloom/util/textcheck.h"
-#endif
 
-namespace netloom::detail {
+namespace netloom::detail::table {
 
 bool CanAccess(const std::string& path) { return ::access(path.c_str(), F_OK) == 0; }
 
@@ -39,13 +34,7 @@ bool AllDigits(const std::string& text) {
   return true;
 }
 
-bool IsValidIp(const std::string& text) {
-#ifdef NETLOOM_HAVE_IPADDRESS
-  return IpAddress::isValidIpAddress(text);
-#else
-  return StrIsIP(text.c_str());
-#endif
-}
+bool IsValidIp(const std::string& text) { return IpAddress::isValidIpAddress(text); }
 
 bool ReadTextLine(std::istream& in, std::string& line) {
   if (!std::getline(in, line)) return false;
@@ -83,4 +72,4 @@ void AppendKeyPart(std::string& key, const std::string& part) {
   key += part;
 }
 
-}  // namespace netloom::detail
+}  // namespace netloom::detail::table

@@ -6,7 +6,7 @@
 #include <istream>
 #include <string>
 
-namespace netloom::detail {
+namespace netloom::detail::table {
 
 // Whether the path can be reached at all (existence, not permission to read).
 bool CanAccess(const std::string& path);
@@ -34,4 +34,4 @@ bool EqualNoCase(const std::string& a, const std::string& b);
 // holding any bytes (NUL included) can never run into each other.
 void AppendKeyPart(std::string& key, const std::string& part);
 
-}  // namespace netloom::detail
+}  // namespace netloom::detail::table
