@@ -59,6 +59,7 @@ bool RowIsLawful(ArpRecord& r) {
 // Key of the compare's first pass: the three compared fields, case folded.
 std::string SameKey(const ArpRecord& r) {
   std::string key;
+  key.reserve(r.Ip.size() + r.Mac.size() + r.Interface.size() + 12);
   AppendKeyPart(key, AsciiLower(r.Ip));
   AppendKeyPart(key, AsciiLower(r.Mac));
   AppendKeyPart(key, AsciiLower(r.Interface));
@@ -286,19 +287,15 @@ void ArpTable::GetArpCompareResult(ArpTable& left, ArpTable& right, std::vector<
   const std::vector<ArpRecord>& L = left.m_records;
   const std::vector<ArpRecord>& R = right.m_records;
   std::vector<bool> leftDone(L.size()), rightDone(R.size());
+  out.reserve(out.size() + L.size() + R.size() / 8);
 
   // Pass 1: same rows. Right rows of one key wait in order; the first unmatched one pairs.
   {
-    std::unordered_map<std::string, std::vector<size_t>> byKey;
-    for (size_t j = 0; j < R.size(); ++j) byKey[SameKey(R[j])].push_back(j);
-    std::unordered_map<std::string, size_t> next;
+    RowQueues<std::string> waiting(R.size());
+    for (size_t j = 0; j < R.size(); ++j) waiting.Add(SameKey(R[j]), j);
     for (size_t i = 0; i < L.size(); ++i) {
-      const std::string key = SameKey(L[i]);
-      const auto it = byKey.find(key);
-      if (it == byKey.end()) continue;
-      size_t& cursor = next[key];
-      if (cursor == it->second.size()) continue;
-      const size_t j = it->second[cursor++];
+      const size_t j = waiting.Take(SameKey(L[i]));
+      if (j == waiting.npos) continue;
       leftDone[i] = rightDone[j] = true;
       out.push_back({L[i], R[j], CommonTableCompareResult::m_iSame});
     }

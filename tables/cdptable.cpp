@@ -8,7 +8,6 @@
 #include <istream>
 #include <map>
 #include <ostream>
-#include <unordered_map>
 #include <unordered_set>
 
 #include "netloom/commontablecompareresult.h"
@@ -42,10 +41,10 @@ bool HeaderMatches(const CSVLineParser& row) {
 // What operator== looks at, as one text.
 std::string EntryKey(const CDPTableEntry& e) {
   std::string key;
-  AppendKeyPart(key, StlHelper::toLower(e.LocalInterface));
-  AppendKeyPart(key, StlHelper::toLower(e.InterfaceName));
-  AppendKeyPart(key, StlHelper::toLower(e.DeviceName));
-  AppendKeyPart(key, StlHelper::toLower(e.InterfaceAddress));
+  AppendKeyPart(key, AsciiLower(e.LocalInterface));
+  AppendKeyPart(key, AsciiLower(e.InterfaceName));
+  AppendKeyPart(key, AsciiLower(e.DeviceName));
+  AppendKeyPart(key, AsciiLower(e.InterfaceAddress));
   key += e.Flag ? '1' : '0';
   return key;
 }
@@ -61,10 +60,10 @@ void CDPTableEntry::clear() {
 }
 
 bool CDPTableEntry::operator==(const CDPTableEntry& other) const {
-  return StlHelper::toLower(LocalInterface) == StlHelper::toLower(other.LocalInterface) &&
-         StlHelper::toLower(InterfaceName) == StlHelper::toLower(other.InterfaceName) &&
-         StlHelper::toLower(DeviceName) == StlHelper::toLower(other.DeviceName) &&
-         StlHelper::toLower(InterfaceAddress) == StlHelper::toLower(other.InterfaceAddress) && Flag == other.Flag;
+  // Folds as the duplicate check of the import does, so the two always agree.
+  return EqualNoCase(LocalInterface, other.LocalInterface) && EqualNoCase(InterfaceName, other.InterfaceName) &&
+         EqualNoCase(DeviceName, other.DeviceName) && EqualNoCase(InterfaceAddress, other.InterfaceAddress) &&
+         Flag == other.Flag;
 }
 
 CDPTable::CDPTable() = default;
@@ -229,21 +228,15 @@ bool CDPTable::GetCdpCompareResult(CDPTable& left, CDPTable& right, std::vector<
   std::vector<bool> leftDone(L.size()), rightDone(R.size());
 
   // Right entries of one local interface pair off in order; every pairing marks both.
-  std::unordered_map<std::string, std::vector<size_t>> byInterface;
-  for (size_t j = 0; j < R.size(); ++j) byInterface[AsciiLower(R[j].LocalInterface)].push_back(j);
-  std::unordered_map<std::string, size_t> next;
+  RowQueues<std::string> waiting(R.size());
+  for (size_t j = 0; j < R.size(); ++j) waiting.Add(AsciiLower(R[j].LocalInterface), j);
   for (size_t i = 0; i < L.size(); ++i) {
-    const std::string key = AsciiLower(L[i].LocalInterface);
-    const auto it = byInterface.find(key);
-    if (it == byInterface.end()) continue;
-    size_t& cursor = next[key];
-    if (cursor == it->second.size()) continue;
-    const size_t j = it->second[cursor];
+    const size_t j = waiting.Take(AsciiLower(L[i].LocalInterface));
+    if (j == waiting.npos) continue;
     const bool same = EqualNoCase(L[i].DeviceName, R[j].DeviceName) &&
                       EqualNoCase(L[i].InterfaceAddress, R[j].InterfaceAddress) &&
                       EqualNoCase(L[i].InterfaceName, R[j].InterfaceName);
     if (!same && sameOnly) return false;
-    ++cursor;
     leftDone[i] = rightDone[j] = true;
     if (!same)
       out.push_back({L[i], R[j], CommonTableCompareResult::m_iDiff});

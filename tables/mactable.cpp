@@ -7,7 +7,6 @@
 #include <istream>
 #include <ostream>
 #include <tuple>
-#include <unordered_map>
 #include <unordered_set>
 
 #include "netloom/commontablecompareresult.h"
@@ -327,16 +326,11 @@ bool MacTable::GetMacCompareResult(MacTable& left, MacTable& right, std::vector<
 
   // Pass 1: same address, port and VLAN; right rows of a key pair off in order.
   {
-    std::unordered_map<std::string, std::vector<size_t>> byKey;
-    for (size_t j = 0; j < R.size(); ++j) byKey[SameKey(*R[j])].push_back(j);
-    std::unordered_map<std::string, size_t> next;
+    RowQueues<std::string> waiting(R.size());
+    for (size_t j = 0; j < R.size(); ++j) waiting.Add(SameKey(*R[j]), j);
     for (size_t i = 0; i < L.size(); ++i) {
-      const std::string key = SameKey(*L[i]);
-      const auto it = byKey.find(key);
-      if (it == byKey.end()) continue;
-      size_t& cursor = next[key];
-      if (cursor == it->second.size()) continue;
-      const size_t j = it->second[cursor++];
+      const size_t j = waiting.Take(SameKey(*L[i]));
+      if (j == waiting.npos) continue;
       leftDone[i] = rightDone[j] = true;
       out.push_back({*L[i], *R[j], CommonTableCompareResult::m_iSame});
     }
@@ -344,23 +338,18 @@ bool MacTable::GetMacCompareResult(MacTable& left, MacTable& right, std::vector<
 
   // Pass 2: same address only; the right row is used up here.
   {
-    std::unordered_map<int64_t, std::vector<size_t>> byMac;
+    RowQueues<int64_t> waiting(R.size());
     for (size_t j = 0; j < R.size(); ++j)
-      if (!rightDone[j]) byMac[R[j]->Mac].push_back(j);
-    std::unordered_map<int64_t, size_t> next;
+      if (!rightDone[j]) waiting.Add(R[j]->Mac, j);
     for (size_t i = 0; i < L.size(); ++i) {
       if (leftDone[i]) continue;
       MacRecordPair pair{*L[i], MacRecord(), CommonTableCompareResult::m_iOnlyInleft};
-      const auto it = byMac.find(L[i]->Mac);
-      if (it != byMac.end()) {
-        size_t& cursor = next[L[i]->Mac];
-        if (cursor < it->second.size()) {
-          const size_t j = it->second[cursor++];
-          rightDone[j] = true;
-          const bool same = EqualNoCase(L[i]->PortName, R[j]->PortName) && L[i]->VlanId == R[j]->VlanId;
-          pair.Right = *R[j];
-          pair.Result = same ? CommonTableCompareResult::m_iSame : CommonTableCompareResult::m_iDiff;
-        }
+      const size_t j = waiting.Take(L[i]->Mac);
+      if (j != waiting.npos) {
+        rightDone[j] = true;
+        const bool same = EqualNoCase(L[i]->PortName, R[j]->PortName) && L[i]->VlanId == R[j]->VlanId;
+        pair.Right = *R[j];
+        pair.Result = same ? CommonTableCompareResult::m_iSame : CommonTableCompareResult::m_iDiff;
       }
       if (sameOnly && pair.Result != CommonTableCompareResult::m_iSame) return false;
       out.push_back(std::move(pair));
