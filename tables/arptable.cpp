@@ -10,8 +10,6 @@
 #include <fstream>
 #include <istream>
 #include <ostream>
-#include <set>
-#include <tuple>
 #include <unordered_map>
 #include <unordered_set>
 
@@ -187,7 +185,8 @@ bool ArpTable::ImportFromCSV(std::istream& in) {
   TakeHostname(row, m_hostName);
   if (!row.ReadFromStream(in) || !HeaderMatches(row)) return false;
 
-  std::set<std::tuple<std::string, std::string, std::string>> seen;
+  // Exact duplicates, byte for byte after the MAC address is normalised.
+  std::unordered_set<std::string> seen;
   while (row.ReadFromStream(in)) {
     if (row.size() < 3) continue;
     ArpRecord r;
@@ -195,7 +194,11 @@ bool ArpTable::ImportFromCSV(std::istream& in) {
     r.Ip = row.Field(1);
     r.Mac = row.Field(2);
     if (!RowIsLawful(r)) continue;
-    if (!seen.emplace(r.Mac, r.Ip, r.Interface).second) continue;
+    std::string key;
+    AppendKeyPart(key, r.Mac);
+    AppendKeyPart(key, r.Ip);
+    AppendKeyPart(key, r.Interface);
+    if (!seen.insert(std::move(key)).second) continue;
     InsertArpRecord(r);
   }
   RebuildIndexIfOutOfStep();
