@@ -134,7 +134,7 @@ void ArpTable::RebuildIndexIfOutOfStep() {
   if (m_records.size() != m_index.size()) CreateIndexOnIp();
 }
 
-std::string ArpTable::GenLogOfUnmormalIndex() {
+std::string ArpTable::GenLogOfUnmormalIndex() const {
   if (!m_indexValid || m_index.size() == m_records.size()) return std::string();
   char buf[200];
   std::snprintf(buf, sizeof buf, " Rcd %zd, index %zd, ", static_cast<ssize_t>(m_records.size()),
@@ -142,7 +142,7 @@ std::string ArpTable::GenLogOfUnmormalIndex() {
   return buf;
 }
 
-ArpRecord ArpTable::FindMacfromArpTable(std::string ip) {
+ArpRecord ArpTable::FindMacfromArpTable(std::string ip) const {
   if (m_records.empty()) return ArpRecord();
   if (m_indexValid) {
     const auto it = m_index.find(ip);

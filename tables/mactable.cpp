@@ -143,7 +143,7 @@ void MacTable::InsertMacRecord(std::string& port, MacRecord& record) {
   m_macMap[row.Mac].emplace(name, row.VlanId);
 }
 
-bool MacTable::GetPortByMac(int64_t& mac, PortVlanSet& out) {
+bool MacTable::GetPortByMac(int64_t& mac, PortVlanSet& out) const {
   const auto it = m_macMap.find(mac);
   if (it == m_macMap.end()) return false;
   out.insert(it->second.begin(), it->second.end());

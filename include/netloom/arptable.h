@@ -60,10 +60,10 @@ class NETLOOM_API ArpTable {
   void RemoveArpRecord(unsigned index);
   void SetIndexValid();
   // " Rcd <rows>, index <size>, " when a valid index has lost track of the rows; else empty.
-  std::string GenLogOfUnmormalIndex();
+  std::string GenLogOfUnmormalIndex() const;
 
   // The first row holding the IP address `ip`, or an empty record.
-  ArpRecord FindMacfromArpTable(std::string ip);
+  ArpRecord FindMacfromArpTable(std::string ip) const;
 
   // Append matching rows to `out` (not cleared first). Ip: case-sensitive
   // substring; Mac and Port: substring ignoring case. An empty filter matches all.

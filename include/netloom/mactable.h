@@ -60,7 +60,7 @@ class NETLOOM_API MacTable {
   void Clear();
   void InsertMacRecord(std::string& port, MacRecord& record);
   // Adds the (port, VLAN) pairs of `mac` to `out`; false if the address is unknown.
-  bool GetPortByMac(int64_t& mac, PortVlanSet& out);
+  bool GetPortByMac(int64_t& mac, PortVlanSet& out) const;
 
   PortMacMap& GetPortMacMap();
   MacPortMap& GetMacPortMap();
