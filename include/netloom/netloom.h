@@ -56,3 +56,6 @@
 // Python bridge
 #include "netloom/pythonutil.h"
 #include "netloom/twp3pythontaskpool.h"
+#include "netloom/arptable.h"
+#include "netloom/mactable.h"
+#include "netloom/cdptable.h"
