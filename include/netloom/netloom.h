@@ -21,6 +21,12 @@
 // Routing
 #include "netloom/routingcost.h"
 #include "netloom/routingtable.h"
+#include "netloom/interfacetypehelper.h"
+#include "netloom/routingtablecmp.h"
+
+// Device access settings
+#include "netloom/devicelistdata.h"
+#include "netloom/subnetlistdata.h"
 
 // Support services
 #include "netloom/lockmgr.h"
