@@ -17,6 +17,68 @@ inline int Atoi(const char* text) {
 }
 inline int Atoi(const std::string& text) { return Atoi(text.c_str()); }
 
+// The common shape of a dotted address, four groups of one to three digits
+// each at most 255, read without sscanf. False for any other text, which
+// the caller then hands to the general reader (whose result on this shape
+// is the same number).
+inline bool FastDotted(const char* text, size_t length, unsigned int& value) {
+  unsigned int result = 0;
+  size_t i = 0;
+  for (int group = 0; group < 4; ++group) {
+    if (group) {
+      if (i >= length || text[i] != '.') return false;
+      ++i;
+    }
+    unsigned int octet = 0;
+    size_t digits = 0;
+    while (i < length && text[i] >= '0' && text[i] <= '9' && digits < 4) {
+      octet = octet * 10 + unsigned(text[i] - '0');
+      ++i, ++digits;
+    }
+    if (digits == 0 || digits > 3 || octet > 255) return false;
+    result = result << 8 | octet;
+  }
+  if (i != length) return false;
+  value = result;
+  return true;
+}
+
+// Route ages as devices print them ("00:01:02", "1d02h", "2w3d"), read
+// without sscanf. False for any other text, which goes to the general reader
+// (RoutingTable::FormatTimeToSecond, which gives the same number on these).
+inline bool FastAge(const char* text, unsigned int& seconds) {
+  unsigned int n[3] = {0, 0, 0};
+  char sep[3] = {0, 0, 0};
+  int parts = 0;
+  const char* p = text;
+  while (parts < 3) {
+    int digits = 0;
+    unsigned int v = 0;
+    while (*p >= '0' && *p <= '9' && digits < 9) v = v * 10 + unsigned(*p++ - '0'), ++digits;
+    if (digits == 0 || (*p >= '0' && *p <= '9')) return false;
+    n[parts] = v;
+    sep[parts] = *p;
+    ++parts;
+    if (*p == '\0') break;
+    ++p;
+    if ((sep[parts - 1] == 'd' || sep[parts - 1] == 'h') && *p == '\0') break;
+  }
+  if (*p != '\0') return false;
+  if (parts == 2 && sep[0] == 'w' && sep[1] == 'd') {
+    seconds = (n[0] * 7u + n[1]) * 86400u;
+    return true;
+  }
+  if (parts == 2 && sep[0] == 'd' && sep[1] == 'h') {
+    seconds = (n[0] * 24u + n[1]) * 3600u;
+    return true;
+  }
+  if (parts == 3 && sep[0] == ':' && sep[1] == ':' && sep[2] == '\0') {
+    seconds = (n[0] * 60u + n[1]) * 60u + n[2];
+    return true;
+  }
+  return false;
+}
+
 // "0.0.0.0" for 0 through "255.255.255.255" for 32; empty outside.
 const std::string& DottedMask(int length);
 

@@ -58,6 +58,11 @@ int MapOldAlg(int stored) {
   }
 }
 
+IpAddress CellAddress(const std::string& cell) {
+  unsigned int value = 0;
+  return FastDotted(cell.data(), cell.size(), value) ? IpAddress(value) : IpAddress(cell);
+}
+
 char ReadExtraCode(const std::string& cell) {
   std::string code = StlHelper::toLower(cell);
   StlHelper::trim(code, " ");
@@ -183,11 +188,11 @@ bool RoutingTable::ReadCSVVersion(std::istream& in) {
     if (row.size() < kMinRowCells) continue;
     auto* entry = new RoutingTableEntry();
     entry->Index = static_cast<unsigned int>(Atoi(cells[0]));
-    entry->DestIp = IpAddress(cells[1]);
+    entry->DestIp = CellAddress(cells[1]);
     entry->DestText = cells[1];
-    entry->DestMask = IpAddress(cells[2]);
+    entry->DestMask = CellAddress(cells[2]);
     entry->MaskText = cells[2];
-    entry->NextHop = IpAddress(cells[3]);
+    entry->NextHop = CellAddress(cells[3]);
     entry->TimeStamp = cells[4].empty() ? 0xFFFFFFFFu : static_cast<unsigned int>(Atoi(cells[4]));
     entry->Metric = cells[5].empty() ? 0xFFFFFFFFu : static_cast<unsigned int>(Atoi(cells[5]));
     entry->Distance = cells[6].empty() ? 65535 : static_cast<unsigned short>(Atoi(cells[6]));
@@ -201,7 +206,10 @@ bool RoutingTable::ReadCSVVersion(std::istream& in) {
     if (cells.size() > 10) entry->OriginalAlg = cells[10];
     if (cells.size() > 11) entry->ExtraText = cells[11];
     if (cells.size() > 12) entry->ExtraCode = ReadExtraCode(cells[12]);
-    if (!m_entryIndexMap.emplace(entry->Index, entry).second) delete entry;
+    // Saved files are in Index order, so the end is the usual place.
+    const size_t before = m_entryIndexMap.size();
+    m_entryIndexMap.emplace_hint(m_entryIndexMap.end(), entry->Index, entry);
+    if (m_entryIndexMap.size() == before) delete entry;
   }
   return true;
 }

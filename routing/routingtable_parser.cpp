@@ -95,19 +95,39 @@ const boost::regex& DefaultGatewayPattern() {
 
 bool Holds(std::string_view text, std::string_view what) { return text.find(what) != std::string_view::npos; }
 
+unsigned char LowerAscii(unsigned char c) { return (c >= 'A' && c <= 'Z') ? static_cast<unsigned char>(c + 32) : c; }
+
+// `what` must be lower case.
 bool HoldsIgnoreCase(std::string_view text, std::string_view what) {
+  if (what.empty()) return true;
   if (what.size() > text.size()) return false;
   const size_t last = text.size() - what.size();
-  const unsigned char first = static_cast<unsigned char>(std::tolower(static_cast<unsigned char>(what[0])));
+  const unsigned char first = static_cast<unsigned char>(what[0]);
   for (size_t i = 0; i <= last; ++i) {
-    if (std::tolower(static_cast<unsigned char>(text[i])) != first) continue;
+    if (LowerAscii(static_cast<unsigned char>(text[i])) != first) continue;
     size_t k = 1;
-    while (k < what.size() && std::tolower(static_cast<unsigned char>(text[i + k])) ==
-                                  std::tolower(static_cast<unsigned char>(what[k])))
+    while (k < what.size() && LowerAscii(static_cast<unsigned char>(text[i + k])) == static_cast<unsigned char>(what[k]))
       ++k;
     if (k == what.size()) return true;
   }
   return false;
+}
+
+// A quick no for the case-blind search below: the phrase has a "y" in it.
+bool MayHoldDefaultGateway(std::string_view text) {
+  return std::memchr(text.data(), 'y', text.size()) || std::memchr(text.data(), 'Y', text.size());
+}
+
+unsigned int DottedToNumber(const char* text) {
+  unsigned int value = 0;
+  if (text && FastDotted(text, std::strlen(text), value)) return value;
+  return TW_AsciiToNetAddr(text ? text : "");
+}
+
+unsigned int AgeToSeconds(const char* text) {
+  unsigned int seconds = 0;
+  if (FastAge(text, seconds)) return seconds;
+  return RoutingTable::FormatTimeToSecond(text);
 }
 
 std::string_view TrimView(std::string_view text) {
@@ -188,12 +208,13 @@ bool RoutingTable::ParseRTBEntry(int variant, const std::string& line, std::stri
   if (variant < 0 || variant > 5) return false;
   const GroupMap& g = kGroups[variant];
 
-  boost::smatch m;
+  // Kept per thread so that its storage is reused from line to line.
+  static thread_local boost::smatch m;
   for (int set = 0; set < 3; ++set) {
     if (!boost::regex_search(line, m, Pattern(variant, set))) continue;
     // A group that took no part leaves its output as preset.
     auto take = [&](int group, std::string& out) {
-      if (group > 0 && m[group].matched) out = m[group].str();
+      if (group > 0 && m[group].matched) out.assign(m[group].first, m[group].second);
     };
     take(g.dest, dest);
     take(g.mask, mask);
@@ -207,7 +228,7 @@ bool RoutingTable::ParseRTBEntry(int variant, const std::string& line, std::stri
       if (comma != std::string::npos) {
         time = outIf.substr(0, comma);
         outIf = StlHelper::trump(outIf.substr(comma + 1));
-      } else if (variant == kRouteUntimed && FormatTimeToSecond(outIf.c_str()) != 0) {
+      } else if (variant == kRouteUntimed && AgeToSeconds(outIf.c_str()) != 0) {
         time = outIf;
         outIf.clear();
       }
@@ -258,17 +279,19 @@ bool RoutingTable::PutEntryToList(unsigned int index, const char* dest, const ch
 
   auto* entry = new RoutingTableEntry();
   entry->Index = index;
-  entry->DestIp = IpAddress(TW_AsciiToNetAddr(dest ? dest : ""));
+  entry->DestIp = IpAddress(DottedToNumber(dest));
   entry->DestMask = IpAddress(IpAddress::getBitMaskByLength(static_cast<int>(maskLen)));
   entry->DestText = dest ? dest : "";
   entry->MaskText = DottedMask(static_cast<int>(maskLen));
-  entry->NextHop = IpAddress(TW_AsciiToNetAddr(gateway ? gateway : ""));
-  const std::string ifText = outIf ? outIf : "";
-  entry->OutIf = helper ? helper->GetFullInterfaceName(ifText) : ifText;
+  entry->NextHop = IpAddress(DottedToNumber(gateway));
+  if (helper)
+    entry->OutIf = helper->GetFullInterfaceName(outIf ? outIf : "");
+  else
+    entry->OutIf = outIf ? outIf : "";
   entry->Alg = alg;
   entry->CandidateDefault = code.size() >= 2 && code[1] == '*';
   entry->SecondFlag = false;
-  entry->TimeStamp = (!time || std::strcmp(time, "-1") == 0) ? 0xFFFFFFFFu : FormatTimeToSecond(time);
+  entry->TimeStamp = (!time || std::strcmp(time, "-1") == 0) ? 0xFFFFFFFFu : AgeToSeconds(time);
   const bool connected = alg == RT_ALG_CONNECTED;
   if (!distance || std::strcmp(distance, "-1") == 0)
     entry->Distance = connected ? 0 : 65535;
@@ -279,7 +302,10 @@ bool RoutingTable::PutEntryToList(unsigned int index, const char* dest, const ch
   else
     entry->Metric = static_cast<unsigned int>(Atoi(metric));
 
-  if (!m_entryIndexMap.emplace(index, entry).second) {
+  // Indexes rise during a parse: the end is the place to insert.
+  const size_t before = m_entryIndexMap.size();
+  m_entryIndexMap.emplace_hint(m_entryIndexMap.end(), index, entry);
+  if (m_entryIndexMap.size() == before) {
     delete entry;
     return false;
   }
@@ -363,6 +389,7 @@ bool RoutingTable::ParseCmdString(const char* text, IInterfaceTypeHelper* helper
   std::string savedMask;
   std::string savedDest;
   std::string previousLine;
+  std::string line;  // the line being treated; its buffer is reused
   std::string dest, mask, distance, metric, gateway, outIf, time;
 
   auto flushBatch = [&] {
@@ -382,7 +409,7 @@ bool RoutingTable::ParseCmdString(const char* text, IInterfaceTypeHelper* helper
   auto treatLine = [&](std::string_view raw) {
     if (raw.size() < 5 || Holds(raw, "show ip route")) return;
 
-    if (!defaultGatewaySeen && HoldsIgnoreCase(raw, "default gateway is")) {
+    if (!defaultGatewaySeen && MayHoldDefaultGateway(raw) && HoldsIgnoreCase(raw, "default gateway is")) {
       const std::string lowered = StlHelper::toLower(std::string(raw));
       if (ParseDefaultRTEntry(lowered.c_str(), gateway)) {
         std::string code = "S*  ";
@@ -411,7 +438,8 @@ bool RoutingTable::ParseCmdString(const char* text, IInterfaceTypeHelper* helper
 
     std::string_view restView = raw.substr(5);
     if (restView.empty() || restView[0] != ' ') restView = raw.substr(4);
-    std::string line(TrimView(restView));
+    const std::string_view trimmed = TrimView(restView);
+    line.assign(trimmed.data(), trimmed.size());
 
     if (Holds(line, "subnetted,")) {
       ParseRTBEntry(kHeader, line, dest, mask, distance, metric, gateway, outIf, time);
@@ -430,7 +458,7 @@ bool RoutingTable::ParseCmdString(const char* text, IInterfaceTypeHelper* helper
       if (!ParseRTBEntry(kSummary, line, dest, mask, distance, metric, gateway, outIf, time)) return;
     } else if (!Holds(line, "via")) {
       // Perhaps the first half of a wrapped route.
-      previousLine = std::move(line);
+      previousLine.swap(line);
       return;
     } else {
       if ((!line.empty() && line[0] == '[') || Holds(line, "routing"))
@@ -453,7 +481,7 @@ bool RoutingTable::ParseCmdString(const char* text, IInterfaceTypeHelper* helper
     addEntry(dest.c_str(), mask.c_str(), distance.c_str(), metric.c_str(), gateway.c_str(), outIf.c_str(),
              time.c_str(), code, alg);
     savedDest = dest;
-    previousLine = std::move(line);
+    previousLine.swap(line);
   };
 
   if (fileMode) {
