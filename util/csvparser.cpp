@@ -235,7 +235,12 @@ bool CSVParser::Load(const std::string& text) {
 
 bool CSVParser::LoadFromStream(std::istream& in) {
   m_rows.clear();
-  if (!in) return false;
+  // The parser holds the whole file, whatever its reader already took: a table
+  // reads its header row by row and then loads everything, header included.
+  in.clear();
+  in.seekg(0, std::ios::beg);
+  if (!in) in.clear();  // not seekable: read on from where it stands
+  if (!in.good()) return false;
   CSVLineParser line(m_delimText);
   while (line.ReadFromStream(in)) m_rows.push_back(line);
   return true;

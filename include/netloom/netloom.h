@@ -17,12 +17,17 @@
 
 // Address primitives
 #include "netloom/ipaddress.h"
+#include "netloom/ipaddress2.h"
+#include "netloom/l3packet.h"
+#include "netloom/macaddress.h"
+#include "netloom/transprotocolhelper.h"
 
 // Routing
 #include "netloom/routingcost.h"
 #include "netloom/routingtable.h"
 #include "netloom/interfacetypehelper.h"
 #include "netloom/routingtablecmp.h"
+#include "netloom/routinghop.h"
 
 // Device access settings
 #include "netloom/devicelistdata.h"
@@ -32,3 +37,10 @@
 #include "netloom/lockmgr.h"
 #include "netloom/schemakeys.h"
 #include "netloom/topofilesystem.h"
+
+// Device tables
+#include "netloom/commontable.h"
+#include "netloom/commontablecompareresult.h"
+#include "netloom/boundinterfacetable.h"
+#include "netloom/stptable.h"
+#include "netloom/nattable.h"

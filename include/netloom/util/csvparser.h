@@ -73,7 +73,9 @@ class NETLOOM_API CSVParser {
   void Insert(const CSVParser& source, int fromRow, bool append, int atRow);
   void Clear() { m_rows.clear(); }
 
-  // Loads replace the whole content. They return false only when nothing could be read.
+  // Loads replace the whole content with every row of the source: a stream is
+  // read from its start when it can seek, even if a reader took rows already.
+  // They return false only when nothing could be read.
   bool Load(const std::string& text);
   bool LoadFromStream(std::istream& in);
   bool LoadFromFile(const std::string& path);
