@@ -59,8 +59,9 @@ class NETLOOM_API DeviceListData {
   // Both sets together, rebuilt at each call.
   const std::set<DeviceEntry>& GetDeviceList();
   const std::set<DeviceEntry>& GetAllDeviceList();
-  const std::set<DeviceEntry>& GetDeviceList2() const { return m_secondSet; }
-  const std::set<DeviceEntry>& GetFirstDeviceList() const { return m_firstSet; }
+  // The first set alone (the name is the callers').
+  const std::set<DeviceEntry>& GetDeviceList2() const { return m_firstSet; }
+  const std::set<DeviceEntry>& GetSecondDeviceList() const { return m_secondSet; }
 
   const std::string& GetName() const { return m_name; }
   void SetName(const std::string& name) { m_name = name; }

@@ -161,7 +161,7 @@ TEST(DeviceList, TwoSetsAndTheirUnion) {
   EXPECT_EQ(list.DelDeviceEntry2(DeviceEntry("b"), 3), 2);
   EXPECT_EQ(list.GetDeviceList().size(), 2u);
   list.RemoveAllEntry2(2);
-  EXPECT_TRUE(list.GetDeviceList2().empty());
+  EXPECT_TRUE(list.GetSecondDeviceList().empty());
   EXPECT_EQ(list.GetSize2(), 1);  // sizes stay as they were
   list.RemoveAllEntry();
   EXPECT_TRUE(list.GetDeviceList().empty());
@@ -185,9 +185,9 @@ DeviceListData FullList() {
 }
 
 void ExpectSameFirstSet(const DeviceListData& a, const DeviceListData& b) {
-  ASSERT_EQ(a.GetFirstDeviceList().size(), b.GetFirstDeviceList().size());
-  auto x = a.GetFirstDeviceList().begin();
-  for (auto y = b.GetFirstDeviceList().begin(); y != b.GetFirstDeviceList().end(); ++x, ++y) {
+  ASSERT_EQ(a.GetDeviceList2().size(), b.GetDeviceList2().size());
+  auto x = a.GetDeviceList2().begin();
+  for (auto y = b.GetDeviceList2().begin(); y != b.GetDeviceList2().end(); ++x, ++y) {
     EXPECT_EQ(x->Name, y->Name);
     EXPECT_EQ(x->Value, y->Value);
   }
@@ -212,9 +212,9 @@ TEST(DeviceListFile, SavedListReloads) {
   EXPECT_EQ(back.GetGroupIDInDB(), 17);
   EXPECT_EQ(back.GetSize(), 2);
   ExpectSameFirstSet(back, list);
-  ASSERT_EQ(back.GetDeviceList2().size(), 1u);
-  EXPECT_EQ(back.GetDeviceList2().begin()->Name, "sw1");
-  EXPECT_EQ(back.GetDeviceList2().begin()->Value, 9);
+  ASSERT_EQ(back.GetSecondDeviceList().size(), 1u);
+  EXPECT_EQ(back.GetSecondDeviceList().begin()->Name, "sw1");
+  EXPECT_EQ(back.GetSecondDeviceList().begin()->Value, 9);
   EXPECT_EQ(back.GetDyString(), "vendor == 'x'");
   EXPECT_EQ(back.GetDyContainerType(), 2);
   EXPECT_EQ(back.GetDyContainerData(), list.GetDyContainerData());
@@ -226,7 +226,7 @@ TEST(DeviceListFile, SavedListReloads) {
   ExpectSameFirstSet(fromFile, list);
   ASSERT_TRUE(headOnly.LoadHead(dir + "core.dl", guid));
   EXPECT_EQ(headOnly.GetName(), "core");
-  EXPECT_TRUE(headOnly.GetFirstDeviceList().empty());
+  EXPECT_TRUE(headOnly.GetDeviceList2().empty());
   EXPECT_FALSE(fromFile.Load(dir + "missing.dl", guid));
 }
 
@@ -280,9 +280,9 @@ TEST(DeviceListFile, OlderForms) {
   EXPECT_EQ(list.GetName(), "old");
   EXPECT_EQ(list.GetColor(), 7u);
   EXPECT_EQ(list.GetGroupIDInDB(), 5);
-  ASSERT_EQ(list.GetFirstDeviceList().size(), 1u);
-  EXPECT_EQ(list.GetFirstDeviceList().begin()->Name, "R7");
-  EXPECT_EQ(list.GetDeviceList2().size(), 1u);  // left alone
+  ASSERT_EQ(list.GetDeviceList2().size(), 1u);
+  EXPECT_EQ(list.GetDeviceList2().begin()->Name, "R7");
+  EXPECT_EQ(list.GetSecondDeviceList().size(), 1u);  // left alone
   EXPECT_EQ(list.GetDyString(), "vendor == 'x'");
 
   // No version word and no public flag: the head ends behind the system flag.
@@ -290,7 +290,7 @@ TEST(DeviceListFile, OlderForms) {
   entries.Word(0x01000000).Text("R8").Word(80).Word(0x01000000).Text("R9").Word(90);
   DeviceListData oldest;
   ASSERT_TRUE(oldest.LoadFromString(OldHead(2).str() + entries.str(), TWGuid2()));
-  EXPECT_EQ(oldest.GetFirstDeviceList().size(), 2u);
+  EXPECT_EQ(oldest.GetDeviceList2().size(), 2u);
   EXPECT_FALSE(oldest.IsPublic());
   DeviceListData headOnly;
   ASSERT_TRUE(headOnly.LoadFromString(OldHead(0).str(), TWGuid2()));
