@@ -17,6 +17,7 @@ using netloom::detail::ReadLE32;
 using netloom::detail::ReadLengthText;
 using netloom::detail::WriteLE32;
 
+namespace netloom::detail {
 namespace {
 
 constexpr int kVersion300 = 300;
@@ -72,6 +73,9 @@ void WriteTagged(std::ostream& out, uint32_t tag, uint32_t value) {
 }
 
 }  // namespace
+}  // namespace netloom::detail
+
+using namespace netloom::detail;
 
 bool DeviceEntry::operator<(const DeviceEntry& other) const {
   return ::strcasecmp(Name.c_str(), other.Name.c_str()) < 0;

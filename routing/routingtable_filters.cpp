@@ -5,6 +5,7 @@
 #include "netloom/routingtable.h"
 #include "netloom/subnetlistdata.h"
 
+namespace netloom::detail {
 namespace {
 
 // Calls `visit` for each entry of the input set, or of the whole table, in
@@ -24,6 +25,9 @@ void ForEachSelected(std::map<unsigned int, RoutingTableEntry*>& entries, std::s
 }
 
 }  // namespace
+}  // namespace netloom::detail
+
+using namespace netloom::detail;
 
 std::set<unsigned int> RoutingTable::FilterSubnet(SubnetEntry& subnet, std::set<unsigned int>* indexes) {
   std::set<unsigned int> result;

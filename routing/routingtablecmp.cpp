@@ -17,6 +17,7 @@ using netloom::detail::ReadByte;
 using netloom::detail::ReadLE32;
 using netloom::detail::WriteLE32;
 
+namespace netloom::detail {
 namespace {
 
 constexpr uint8_t kHeadMark = 0x80;
@@ -78,6 +79,9 @@ void MergeWalk(std::vector<RoutingTableEntry*>& src, std::vector<RoutingTableEnt
 }
 
 }  // namespace
+}  // namespace netloom::detail
+
+using namespace netloom::detail;
 
 RoutingTableCmp::RoutingTableCmp(RTCmpElement* source, RTCmpElement* destination)
     : m_source(source), m_destination(destination) {}

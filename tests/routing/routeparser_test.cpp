@@ -352,6 +352,28 @@ TEST(RouteParser, EveryRouteLineOfTheSampleListingsBecomesOneEntry) {
   }
 }
 
+TEST(RouteParser, AgesAndAddressesAgreeWithTheGeneralReaders) {
+  // Common shapes take a quicker road than sscanf; every shape must give
+  // what the general readers give.
+  const char* ages[] = {"00:01:02", "1w2d",     "2w0d",  "1d02h",   "21w4d",      "13:26:04", "0:0:0",
+                        "99:99:99", "1d",       "1w",    "12:34",   "1:2:3:4",    "1dx",      "4294967295:1:1",
+                        "1d2h3",    "007w007d", "5d23h", "1wd",     "123456789:0:0", "1234567890w1d"};
+  const char* addresses[] = {"10.1.2.0", "010.001.002.000", "1.2.3.256", "1234.1.1.1", "255.255.255.255", "0.0.0.0",
+                             "1.2.3.0004"};
+  for (const char* age : ages) {
+    for (const char* dest : addresses) {
+      SCOPED_TRACE(std::string(age) + " " + dest);
+      const std::string line = std::string("B        ") + dest + "/24 [20/0] via 10.1.1.1, " + age + ", Vlan1\n";
+      RoutingTable table;
+      ASSERT_TRUE(table.ParseCmdString(WithGateway(line).c_str(), nullptr, true));
+      RoutingTableEntry* e = Only(table);
+      ASSERT_NE(e, nullptr);
+      EXPECT_EQ(e->TimeStamp, RoutingTable::FormatTimeToSecond(age));
+      EXPECT_EQ(e->DestIp.bitForm(), TW_AsciiToNetAddr(dest));
+    }
+  }
+}
+
 // ---- single steps ----
 
 struct VariantCase {
