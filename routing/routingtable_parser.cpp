@@ -93,6 +93,17 @@ const boost::regex& DefaultGatewayPattern() {
   return re;
 }
 
+// Boost.Regex gives up with an exception on a search it finds too costly;
+// for a listing line that is simply no match.
+template <typename Subject, typename Match>
+bool Search(const Subject& subject, Match& match, const boost::regex& pattern) {
+  try {
+    return boost::regex_search(subject, match, pattern);
+  } catch (const std::exception&) {
+    return false;
+  }
+}
+
 bool Holds(std::string_view text, std::string_view what) { return text.find(what) != std::string_view::npos; }
 
 unsigned char LowerAscii(unsigned char c) { return (c >= 'A' && c <= 'Z') ? static_cast<unsigned char>(c + 32) : c; }
@@ -211,7 +222,7 @@ bool RoutingTable::ParseRTBEntry(int variant, const std::string& line, std::stri
   // Kept per thread so that its storage is reused from line to line.
   static thread_local boost::smatch m;
   for (int set = 0; set < 3; ++set) {
-    if (!boost::regex_search(line, m, Pattern(variant, set))) continue;
+    if (!Search(line, m, Pattern(variant, set))) continue;
     // A group that took no part leaves its output as preset.
     auto take = [&](int group, std::string& out) {
       if (group > 0 && m[group].matched) out.assign(m[group].first, m[group].second);
@@ -254,7 +265,7 @@ bool RoutingTable::ParseGateway(const char* line, std::string& gateway, std::str
   network.clear();
   if (!line) return false;
   boost::cmatch m;
-  if (!boost::regex_search(line, m, GatewayPattern())) return false;
+  if (!Search(line, m, GatewayPattern())) return false;
   gateway = m[1].str();
   network = m[2].str();
   return true;
@@ -264,7 +275,7 @@ bool RoutingTable::ParseDefaultRTEntry(const char* line, std::string& gateway) {
   gateway.clear();
   if (!line) return false;
   boost::cmatch m;
-  if (!boost::regex_search(line, m, DefaultGatewayPattern())) return false;
+  if (!Search(line, m, DefaultGatewayPattern())) return false;
   gateway = m[1].str();
   return true;
 }
