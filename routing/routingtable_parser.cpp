@@ -385,8 +385,11 @@ bool RoutingTable::ParseCmdString(const char* text, IInterfaceTypeHelper* helper
       !Holds(scope, "is variably subnetted") && !HoldsIgnoreCase(scope, "default gateway is")) {
     if (fileMode) {
       inFile.close();
-      outFile.close();
-      std::remove((fileName + ".out").c_str());
+      // Only the file this call made goes again.
+      if (outFile.is_open()) {
+        outFile.close();
+        std::remove((fileName + ".out").c_str());
+      }
     }
     return false;
   }
