@@ -290,6 +290,7 @@ TEST(RouteParser, BadLinesAreDroppedWithoutStoppingTheParse) {
   const std::string text = WithGateway(
       "O        10.0.0.0/99 [110/2] via 10.1.1.1, 00:00:01, Vlan1\n"  // mask out of range
       "O        not a route via anything\n"
+      "O        10.0.0.0 255.0.255.0 [110/2] via 10.1.1.1, 00:00:01, Vlan1\n"  // mask with a hole
       "O        10.8.0.0/16 [110/2] via 10.1.1.1, 00:00:01, Vlan1\n"
       "\x01\xff\x7f junk without the word\n");
   RoutingTable table;
