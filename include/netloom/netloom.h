@@ -31,7 +31,13 @@
 // Routing
 #include "netloom/routingcost.h"
 #include "netloom/routingtable.h"
+#include "netloom/interfacetypehelper.h"
+#include "netloom/routingtablecmp.h"
 #include "netloom/routinghop.h"
+
+// Device access settings
+#include "netloom/devicelistdata.h"
+#include "netloom/subnetlistdata.h"
 
 // Support services
 #include "netloom/lockmgr.h"

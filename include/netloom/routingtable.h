@@ -4,6 +4,7 @@
 // A table is used by one thread at a time, or read-only by many once built.
 #pragma once
 
+#include <iosfwd>
 #include <map>
 #include <memory>
 #include <set>
@@ -46,6 +47,16 @@ class RoutingTableEntry;
 namespace netloom::detail {
 class NetworkKeyIndex;
 }
+// ---- Route listings, route files and subnet filters ----
+class IInterfaceTypeHelper;
+class SubnetListData;
+struct SubnetEntry;
+
+// What FilterCombination asks of a route; a null member asks nothing.
+struct NETLOOM_API RTFilterStruct {
+    SubnetListData* Subnets = nullptr;
+    std::set<unsigned int>* NextRouters = nullptr;  // next hops; an empty set accepts none
+};
 
 // A row of a device's route table as read by SNMP, in text form.
 class NETLOOM_API LiveRtEntry {
@@ -215,7 +226,50 @@ public:
     const std::string& GetDescription() const { return m_description; }
     void SetDescription(const std::string& description) { m_description = description; }
 
+    // ---- Route listings: parsing a device's "show ip route" text ----
+    // The text, or with the prefix "twfile://" a file converted in place to a route file.
+    bool ParseCmdString(const char* text, IInterfaceTypeHelper* helper, bool generateMap);
+    bool ParseStream(std::istream& in, IInterfaceTypeHelper* helper, bool generateMap);
+
+    // ---- Route table files ----
+    bool ReadRTData(const char* path);
+    bool ReadRTData(std::istream& in, bool generateMap);
+    bool ImportRTData(const char* path, const char* unused, int unusedFlag);
+    bool ImportRTData(std::istream& in, const char* unused, int unusedFlag);
+    bool SaveRTData(const char* path);
+    bool SaveRTData(std::ostream& out);
+    bool SaveRTDataToString(std::string& out);
+    bool ExportCSV(const char* path);
+    bool ExportCSV(std::ostream& out);
+    // A plain text report, one line a route.
+    bool ExportRT(const char* path);
+
+    // ---- Filters by subnet list ----
+    std::set<unsigned int> FilterSubnet(SubnetEntry& subnet, std::set<unsigned int>* indexes);
+    std::set<unsigned int> FilterCombination(RTFilterStruct& filter, std::set<unsigned int>* indexes);
+    std::set<unsigned int> FilterSubnetList(SubnetListData& subnets, std::set<unsigned int>* indexes);
+
 protected:
+    // ---- Route listings ----
+    bool ParseRTBEntry(int variant, const std::string& line, std::string& dest, std::string& mask,
+                       std::string& distance, std::string& metric, std::string& gateway,
+                       std::string& outIf, std::string& time);
+    bool ParseGateway(const char* line, std::string& gateway, std::string& network);
+    bool ParseDefaultRTEntry(const char* line, std::string& gateway);
+    // False (nothing stored) for a mask length outside 0 to 32.
+    bool PutEntryToList(unsigned int index, const char* dest, const char* mask, const char* distance,
+                        const char* metric, const char* gateway, const char* outIf, const char* time,
+                        std::string& code, TW_RoutingAlgorithm alg, IInterfaceTypeHelper* helper);
+
+    // ---- Route table files ----
+    bool SaveCSVVersion(std::ostream& out, bool saved, bool withHeader);
+    bool ReadCSVVersion(std::istream& in);
+    bool ReadBinaryVersion(std::istream& in, unsigned int firstWord);
+    bool ReadDataSetRTData(std::istream& in, bool generateMap);
+
+    // ---- Filters by subnet list ----
+    bool FilterRTStruct(const RoutingTableEntry* entry, RTFilterStruct& filter);
+
     void AddEntry(RoutingTableEntry* entry);
     void AddToMajorNetwork(const RoutingTableEntry* entry);
     void DeleteAllEntries();
