@@ -86,8 +86,9 @@ def listing(seed, notation, routes, drop=(), change=()):
                    "      %d.%d.0.0/%d is variably subnetted, 20 subnets, 2 masks" % (first, second, length))
         for k in range(20):
             number += 1
-            if number in drop:
-                continue
+            kept = out
+            if number in drop:  # draw the same numbers, print nothing: the rest stays the same
+                out = []
             code, distance, (lo, hi) = rng.choice(PROTOCOLS)
             metric = rng.randint(lo, hi)
             if number in change:
@@ -100,10 +101,12 @@ def listing(seed, notation, routes, drop=(), change=()):
             code_col = (code + " " * 9)[:9]
             if code == "S":
                 out.append("%s%s [%d/%d] via %s" % (code_col, prefix, distance, metric, hop))
+                out = kept
                 continue
             if code == "B":
                 out.append("%s%s [%d/%d] via 203.0.113.%d, %s" % (code_col, prefix, distance, metric,
                                                                   rng.randrange(1, 250), age(rng)))
+                out = kept
                 continue
             when = age(rng)
             if rng.random() < 0.08:  # too long for one line: the path goes on the next one
@@ -115,6 +118,7 @@ def listing(seed, notation, routes, drop=(), change=()):
                 other = rng.choice([i for i in INTERFACES if i != ifname])
                 out.append("                     [%d/%d] via %s, %s, %s" % (distance, metric, NEXT_HOPS[other],
                                                                            when, other))
+            out = kept
     return "\n".join(out) + "\n"
 
 
@@ -169,6 +173,24 @@ end
 """
 
 
+def arp_table(seed, drop=(), moved=()):
+    """An ARP table in the CSV form: hosts on the device's VLANs and uplinks."""
+    rng = random.Random(seed)
+    rows = ["version:1.0,hostname:core1", "Interface,IP Address,MAC Address,Vendor"]
+    vendors = [("0050.56", "VMware"), ("001b.21", "Intel"), ("3c52.82", "HP"), ("0025.b5", "Cisco")]
+    for i in range(120):
+        vlan = (10, 20)[i % 2]
+        prefix, vendor = vendors[rng.randrange(len(vendors))]
+        mac = "%s%02x.%04x" % (prefix, rng.randrange(256), rng.randrange(65536))
+        if i in drop:
+            continue
+        ifname = "Vlan%d" % vlan
+        if i in moved:
+            mac = "%s%02x.%04x" % (prefix, (i * 7) % 256, (i * 977) % 65536)
+        rows.append("%s,10.%d.0.%d,%s,%s" % (ifname, vlan, i // 2 + 10, mac, vendor))
+    return "\n".join(rows) + "\n"
+
+
 def main(folder):
     root = Path(folder)
     (root / "routes").mkdir(parents=True, exist_ok=True)
@@ -179,6 +201,9 @@ def main(folder):
     (root / "routes" / "branch-dotted.txt").write_text(listing(11, "dotted", 100))
     (root / "routes" / "branch-hexmask.txt").write_text(listing(13, "hex", 100))
     (root / "config" / "edge1.cfg").write_text(CONFIG)
+    (root / "arp").mkdir(parents=True, exist_ok=True)
+    (root / "arp" / "core1-arp-monday.csv").write_text(arp_table(5))
+    (root / "arp" / "core1-arp-tuesday.csv").write_text(arp_table(5, drop={7, 40}, moved={12, 99}))
 
 
 if __name__ == "__main__":

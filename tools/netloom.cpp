@@ -18,6 +18,10 @@
 
 using namespace netloom_tool;
 
+namespace netloom_tool {
+extern bool g_json;
+}
+
 int main(int argc, char** argv) {
   CLI::App app{"netloom: route tables, device tables and configurations from network devices"};
   app.require_subcommand(1);
@@ -35,7 +39,7 @@ int main(int argc, char** argv) {
   rp->add_option("-o,--output", parse.output, "write the route table here (default: stdout)");
   rp->add_flag("--stream", parse.stream, "convert a huge listing in place, keeping little in memory (needs -o)");
   rp->add_flag("--json", json, "print results as JSON");
-  rp->callback([&] { run = [&] { RouteParse(parse, report, json); }; });
+  rp->callback([&] { report.command = "route parse"; run = [&] { RouteParse(parse, report, json); }; });
 
   RouteLookupOptions lookup;
   auto* rl = route->add_subcommand("lookup", "the routes an address matches in a route table");
@@ -43,7 +47,7 @@ int main(int argc, char** argv) {
   rl->add_option("ADDRESS", lookup.addresses, "IPv4 addresses")->required();
   rl->add_flag("--resolve", lookup.resolve, "follow next hops recursively to the outgoing interface");
   rl->add_flag("--json", json, "print results as JSON");
-  rl->callback([&] { run = [&] { RouteLookup(lookup, report); }; });
+  rl->callback([&] { report.command = "route lookup"; run = [&] { RouteLookup(lookup, report); }; });
 
   DiffOptions routeDiff;
   auto* rd = route->add_subcommand("diff", "compare two route tables");
@@ -51,7 +55,7 @@ int main(int argc, char** argv) {
   rd->add_option("B", routeDiff.right, "right route table")->required();
   rd->add_flag("--all", routeDiff.all, "list unchanged routes too");
   rd->add_flag("--json", json, "print results as JSON");
-  rd->callback([&] { run = [&] { RouteDiff(routeDiff, report); }; });
+  rd->callback([&] { report.command = "route diff"; run = [&] { RouteDiff(routeDiff, report); }; });
 
   // config
   auto* config = app.add_subcommand("config", "device configurations")->require_subcommand(1);
@@ -62,7 +66,7 @@ int main(int argc, char** argv) {
   ch->add_flag("--in-place", hide.inPlace, "rewrite the files (through a temporary file and a rename)");
   ch->add_option("--rules", hide.rules, "rule file to use instead of the site's");
   ch->add_flag("--json", json, "print results as JSON");
-  ch->callback([&] { run = [&] { ConfigHide(hide, report); }; });
+  ch->callback([&] { report.command = "config hide"; run = [&] { ConfigHide(hide, report); }; });
 
   // ifname
   IfNameOptions ifname;
@@ -70,7 +74,7 @@ int main(int argc, char** argv) {
   in->add_option("--driver", ifname.driver, "driver id whose names apply (a GUID)");
   in->add_option("NAME", ifname.names, "interface names")->required();
   in->add_flag("--json", json, "print results as JSON");
-  in->callback([&] { run = [&] { IfName(ifname, report); }; });
+  in->callback([&] { report.command = "ifname"; run = [&] { IfName(ifname, report); }; });
 
   // device tables
   DiffOptions arp, mac, cdp;
@@ -87,7 +91,8 @@ int main(int argc, char** argv) {
     diff->add_flag("--json", json, "print results as JSON");
     auto fn = t.fn;
     auto* opts = t.o;
-    diff->callback([&, fn, opts] { run = [&, fn, opts] { fn(*opts, report); }; });
+    const std::string label = std::string(t.name) + " diff";
+    diff->callback([&, fn, opts, label] { report.command = label; run = [&, fn, opts] { fn(*opts, report); }; });
   }
 
   try {
@@ -102,6 +107,7 @@ int main(int argc, char** argv) {
   }
 
   try {
+    g_json = json;
     if (run) run();
     report.Print(std::cout, json);
     std::cout.flush();
