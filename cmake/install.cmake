@@ -32,3 +32,10 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "libboost-dev (>= 1.74), python3-dev (>= 3.11)")
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 include(CPack)
+
+# API reference, when doxygen is installed: cmake --build build --target apidoc
+find_program(DOXYGEN_EXECUTABLE doxygen)
+if(DOXYGEN_EXECUTABLE)
+  add_custom_target(apidoc COMMAND ${DOXYGEN_EXECUTABLE} docs/Doxyfile
+    WORKING_DIRECTORY ${PROJECT_SOURCE_DIR} COMMENT "API reference in build/apidoc")
+endif()
