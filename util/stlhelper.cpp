@@ -77,16 +77,16 @@ std::vector<std::string> splitString(const std::string& text, const std::string&
 
 namespace {
 // "\r\n[\r][\n]" -> {"\r\n", "\r", "\n"}: the leading literal run, then each bracketed text.
-std::vector<std::string> ParseLineEnds(const std::string& spec) {
+std::vector<std::string> ParseLineEnds(const std::string& pattern) {
   std::vector<std::string> ends;
   size_t i = 0;
   std::string literal;
-  while (i < spec.size() && spec[i] != '[') literal += spec[i++];
+  while (i < pattern.size() && pattern[i] != '[') literal += pattern[i++];
   if (!literal.empty()) ends.push_back(literal);
-  while (i < spec.size()) {
-    const size_t close = spec.find(']', i + 1);
-    if (spec[i] != '[' || close == std::string::npos) break;
-    if (close > i + 1) ends.push_back(spec.substr(i + 1, close - i - 1));
+  while (i < pattern.size()) {
+    const size_t close = pattern.find(']', i + 1);
+    if (pattern[i] != '[' || close == std::string::npos) break;
+    if (close > i + 1) ends.push_back(pattern.substr(i + 1, close - i - 1));
     i = close + 1;
   }
   if (ends.empty()) ends.push_back("\n");
