@@ -1,4 +1,4 @@
-#!/usr/bin/env python3
+#!/usr/bin/python3
 """pandas on the common-table files bench_tables_common_nat writes: read_csv
 of each file (header rows skipped) and a keyed merge on the two key columns,
 the work closest to the keyed compare. CPU milliseconds, best of 3."""

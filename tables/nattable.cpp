@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
+#include <unordered_map>
 
 #include "netloom/util/csvparser.h"
 #include "netloom/util/stlhelper.h"
@@ -13,8 +14,11 @@ const char* const kColumns[8] = {"ID", "InInterface", "OutInterface", "InsideLoc
                                  "InsideGlobal", "OutsideLocal", "OutsideGlobal", "Flag"};
 const char* const kFlags[3] = {"Manual", "Static", "Dynamic"};
 
+// The packet's address as a host location with its port.
 NetAddress PacketAddress(const IpAddress& address, int port) {
-  return NetAddress(address.textForm(), "255.255.255.255", port);
+  NetAddress a(IpLocation(address.bitForm(), 0xFFFFFFFFu));
+  a.setPort(port);
+  return a;
 }
 }  // namespace
 
@@ -60,8 +64,23 @@ bool NATEntry::CheckIsValidIps(const std::string& list) {
 
 bool NATEntry::IsMach(const std::string& list, const NetAddress& address, bool emptyMatches) {
   if (emptyMatches && list.empty()) return true;
-  std::vector<AddressType> items;
-  if (!ParseString(list, items, false) || items.empty()) return false;
+  // A packet walks every rule, so the same few list texts are parsed again and
+  // again; parsing is a pure function of the text, so each thread keeps its
+  // results. The cap bounds memory for tables that keep changing.
+  struct Parsed {
+    bool ok;
+    std::vector<AddressType> items;
+  };
+  thread_local std::unordered_map<std::string, Parsed> cache;
+  auto it = cache.find(list);
+  if (it == cache.end()) {
+    if (cache.size() >= 8192) cache.clear();
+    Parsed parsed;
+    parsed.ok = ParseString(list, parsed.items, false);
+    it = cache.emplace(list, std::move(parsed)).first;
+  }
+  const std::vector<AddressType>& items = it->second.items;
+  if (!it->second.ok || items.empty()) return false;
   for (const auto& item : items) {
     bool hit = item.IsRange ? !(address < item.First) && !(item.Last < address) : item.First.matchTo(address);
     if (item.Negated) hit = !hit;
