@@ -15,44 +15,31 @@
 
 namespace {
 
+const std::string kAbc = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
+
+// Base64 written here, so the tests can reach the bytes under a sealed cell.
 std::string Decode64(const std::string& in) {
-    static const std::string abc = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
     std::string out;
     unsigned acc = 0;
     int bits = 0;
     for (char c : in) {
         if (c == '=') break;
-        acc = (acc << 6) | static_cast<unsigned>(abc.find(c));
-        bits += 6;
-        if (bits >= 8) {
-            bits -= 8;
-            out += static_cast<char>((acc >> bits) & 0xFF);
-        }
+        acc = (acc << 6) | static_cast<unsigned>(kAbc.find(c));
+        if ((bits += 6) >= 8) out += static_cast<char>((acc >> (bits -= 8)) & 0xFF);
     }
     return out;
 }
 
 std::string Encode64(const std::string& in) {
-    static const char abc[] = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
     std::string out;
-    size_t i = 0;
-    for (; i + 2 < in.size(); i += 3) {
-        const unsigned v = (static_cast<unsigned char>(in[i]) << 16) | (static_cast<unsigned char>(in[i + 1]) << 8) |
-                           static_cast<unsigned char>(in[i + 2]);
-        for (int s = 18; s >= 0; s -= 6) out += abc[(v >> s) & 63];
+    unsigned acc = 0;
+    int bits = 0;
+    for (unsigned char c : in) {
+        acc = (acc << 8) | c;
+        for (bits += 8; bits >= 6;) out += kAbc[(acc >> (bits -= 6)) & 63];
     }
-    if (in.size() - i == 1) {
-        const unsigned v = static_cast<unsigned char>(in[i]) << 16;
-        out += abc[v >> 18];
-        out += abc[(v >> 12) & 63];
-        out += "==";
-    } else if (in.size() - i == 2) {
-        const unsigned v = (static_cast<unsigned char>(in[i]) << 16) | (static_cast<unsigned char>(in[i + 1]) << 8);
-        out += abc[v >> 18];
-        out += abc[(v >> 12) & 63];
-        out += abc[(v >> 6) & 63];
-        out += '=';
-    }
+    if (bits > 0) out += kAbc[(acc << (6 - bits)) & 63];
+    while (out.size() % 4 != 0) out += '=';
     return out;
 }
 
@@ -66,8 +53,7 @@ TEST(Aes, RoundTripsEveryKindOfText) {
         const std::string sealed = TWAes::Encrypt(t);
         ASSERT_FALSE(sealed.empty());
         // Safe in a CSV cell without quoting.
-        EXPECT_EQ(sealed.find_first_not_of("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/="),
-                  std::string::npos);
+        EXPECT_EQ(sealed.find_first_not_of(kAbc + "="), std::string::npos);
         EXPECT_EQ(TWAes::Decrypt(sealed), t);
     }
     // A fresh nonce each time: equal texts do not give equal cells.

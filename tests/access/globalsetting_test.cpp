@@ -4,6 +4,10 @@
 
 #include <rapidjson/document.h>
 
+#include <string>
+#include <tuple>
+#include <utility>
+
 #include "netloom/globalsetting.h"
 #include "netloom/util/kxjson.h"
 
@@ -25,6 +29,12 @@ const char* kCliDoc = R"({
   "cliTimeout": 60, "checkTime": 7, "waitTime": 1, "forceTime": 900, "isSendSSH": false,
   "isSaveReceivedData": true, "retriRTMaxNum": 250000})";
 
+// The switches and numbers, in the document's order.
+std::tuple<bool, int, int, int, int, int, bool, bool, int> Numbers(const GlobalCliSetting& s) {
+  return {s.isEncryptUsername, s.exitTimeout, s.cliTimeout, s.checkTime, s.waitTime,
+          s.forceTime,         s.isSendSSH,   s.isSaveReceivedData, s.retriRTMaxNum};
+}
+
 void ExpectCliDoc(const GlobalCliSetting& s) {
   EXPECT_EQ(s.userPrompts, (Set{"Username:", "login:"}));  // repeats collapse
   EXPECT_EQ(s.passwordPrompts, (Set{"Password:"}));       // one element, no separator
@@ -32,15 +42,7 @@ void ExpectCliDoc(const GlobalCliSetting& s) {
   EXPECT_TRUE(s.enableUserNamePrompts.empty());
   EXPECT_EQ(s.enablePasswordPrompts, (Set{"pw:"}));
   EXPECT_EQ(s.privilegePrompts, (Set{"#", "(enable)"}));
-  EXPECT_TRUE(s.isEncryptUsername);
-  EXPECT_EQ(s.exitTimeout, 4);
-  EXPECT_EQ(s.cliTimeout, 60);
-  EXPECT_EQ(s.checkTime, 7);
-  EXPECT_EQ(s.waitTime, 1);
-  EXPECT_EQ(s.forceTime, 900);
-  EXPECT_FALSE(s.isSendSSH);
-  EXPECT_TRUE(s.isSaveReceivedData);
-  EXPECT_EQ(s.retriRTMaxNum, 250000);
+  EXPECT_EQ(Numbers(s), std::make_tuple(true, 4, 60, 7, 1, 900, false, true, 250000));
 }
 
 TEST(GlobalCliSetting, Defaults) {
@@ -51,43 +53,19 @@ TEST(GlobalCliSetting, Defaults) {
   EXPECT_EQ(s.enableUserNamePrompts, s.userPrompts);
   EXPECT_EQ(s.enablePasswordPrompts, s.passwordPrompts);
   EXPECT_EQ(s.privilegePrompts, (Set{"#", "(enable)"}));
-  EXPECT_FALSE(s.isEncryptUsername);
-  EXPECT_EQ(s.exitTimeout, 3);
-  EXPECT_EQ(s.cliTimeout, 30);
-  EXPECT_EQ(s.checkTime, 5);
-  EXPECT_EQ(s.waitTime, 2);
-  EXPECT_EQ(s.forceTime, 600);
-  EXPECT_TRUE(s.isSendSSH);
-  EXPECT_FALSE(s.isSaveReceivedData);
-  EXPECT_EQ(s.retriRTMaxNum, 100000);
+  EXPECT_EQ(Numbers(s), std::make_tuple(false, 3, 30, 5, 2, 600, true, false, 100000));
 }
 
-TEST(GlobalCliSetting, LoadsFromEitherJsonLibrary) {
-  GlobalCliSetting viaKx;
-  ASSERT_TRUE(viaKx.LoadFromJson(Json(kCliDoc)));
-  ExpectCliDoc(viaKx);
-
+TEST(GlobalCliSetting, BothLoadersAndTheSavedForm) {
   rapidjson::Document doc;
   doc.Parse(kCliDoc);
   ASSERT_FALSE(doc.HasParseError());
-  GlobalCliSetting viaRapid;
+  GlobalCliSetting viaRapid, s;
   ASSERT_TRUE(viaRapid.LoadFromRapidJson(doc));
   ExpectCliDoc(viaRapid);
-}
-
-TEST(GlobalCliSetting, LoadReplacesThePromptsNotAddsToThem) {
-  GlobalCliSetting s;
-  ASSERT_TRUE(s.LoadFromJson(Json(R"({"userPrompts": "only:"})")));
-  EXPECT_EQ(s.userPrompts, (Set{"only:"}));
-  EXPECT_TRUE(s.passwordPrompts.empty());  // missing reads as empty
-  EXPECT_EQ(s.cliTimeout, 0);              // and numbers as 0
-  s.ClearAllPrompts();
-  EXPECT_TRUE(s.userPrompts.empty() && s.privilegePrompts.empty());
-}
-
-TEST(GlobalCliSetting, SaveAndReloadKeepsTheSets) {
-  GlobalCliSetting s;
   ASSERT_TRUE(s.LoadFromJson(Json(kCliDoc)));
+  ExpectCliDoc(s);
+
   kxJson::Value saved;
   ASSERT_TRUE(s.SaveToJson(saved));
   // Sets are written in byte order, not the order they came in.
@@ -95,18 +73,23 @@ TEST(GlobalCliSetting, SaveAndReloadKeepsTheSets) {
   EXPECT_EQ(saved["privilegePrompts"].asString(), "#||(enable)");
   EXPECT_EQ(saved.getMemberNames().front(), "userPrompts");
   EXPECT_EQ(saved.getMemberNames().back(), "retriRTMaxNum");
-
   GlobalCliSetting back;
-  kxJson::Value reparsed;
-  kxJson::Reader reader;
-  ASSERT_TRUE(reader.parse(saved.toString(), reparsed));
-  ASSERT_TRUE(back.LoadFromJson(reparsed));
+  ASSERT_TRUE(back.LoadFromJson(Json(saved.toString())));
   ExpectCliDoc(back);
   // An empty prompt in a set travels too.
   s.userPrompts = {"", "x"};
   ASSERT_TRUE(s.SaveToJson(saved));
   ASSERT_TRUE(back.LoadFromJson(saved));
   EXPECT_EQ(back.userPrompts, (Set{"", "x"}));
+
+  // A load replaces the prompts rather than adding to them; missing members
+  // read as empty and 0.
+  ASSERT_TRUE(s.LoadFromJson(Json(R"({"userPrompts": "only:"})")));
+  EXPECT_EQ(s.userPrompts, (Set{"only:"}));
+  EXPECT_TRUE(s.passwordPrompts.empty());
+  EXPECT_EQ(s.cliTimeout, 0);
+  s.ClearAllPrompts();
+  EXPECT_TRUE(s.userPrompts.empty() && s.privilegePrompts.empty());
 }
 
 TEST(GlobalCliSetting, RapidJsonMembersOfOddTypesDoNotAbort) {
@@ -117,11 +100,8 @@ TEST(GlobalCliSetting, RapidJsonMembersOfOddTypesDoNotAbort) {
   GlobalCliSetting s;
   ASSERT_TRUE(s.LoadFromRapidJson(doc));
   EXPECT_EQ(s.userPrompts, (Set{"5"}));
-  EXPECT_EQ(s.cliTimeout, 45);
-  EXPECT_TRUE(s.isSendSSH);
-  EXPECT_EQ(s.exitTimeout, 0);
-  EXPECT_EQ(s.forceTime, 2147483647);
-  EXPECT_EQ(s.checkTime, 0);
+  // Numbers from text, true from "true", clamped to the int range, 0 for the rest.
+  EXPECT_EQ(Numbers(s), std::make_tuple(false, 0, 45, 0, 0, 2147483647, true, false, 0));
 
   rapidjson::Document notObject;
   notObject.Parse("[1, 2]");
@@ -136,62 +116,36 @@ TEST(GlobalLiveSetting, TopologyFlagDefaultsToTrueAndIsNotSaved) {
       "accessOrder": 3, "intfOrder": "eth", "snmpIfPingFailed": true, "telnetIfPingFailed": true,
       "updateDeviceSetting": true, "guessDeviceType": true})")));
   EXPECT_TRUE(s.buildL3TopoAfterDiscovery);  // absent: true, whatever it held
-  EXPECT_EQ(s.domainOption, 2);
-  EXPECT_EQ(s.domainName, "corp");
-  EXPECT_EQ(s.pollingOrder, 1);
-  EXPECT_EQ(s.accessOrder, 3);
-  EXPECT_EQ(s.intfOrder, "eth");
+  EXPECT_EQ(std::make_tuple(s.domainOption, s.domainName, s.pollingOrder, s.accessOrder, s.intfOrder),
+            std::make_tuple(2, std::string("corp"), 1, 3, std::string("eth")));
   EXPECT_TRUE(s.snmpIfPingFailed && s.telnetIfPingFailed && s.updateDeviceSetting && s.guessDeviceType);
 
-  ASSERT_TRUE(s.LoadFromJson(Json(R"({"buildL3TopoAfterDiscovery": false})")));
-  EXPECT_FALSE(s.buildL3TopoAfterDiscovery);
-  ASSERT_TRUE(s.LoadFromJson(Json(R"({"buildL3TopoAfterDiscovery": null})")));
-  EXPECT_FALSE(s.buildL3TopoAfterDiscovery);  // present, even if null
-
-  GlobalLiveSetting a;
-  a.domainName = "x";
-  a.guessDeviceType = true;
-  a.buildL3TopoAfterDiscovery = false;
+  // Never saved, even when false; read back, it is true again.
+  s.buildL3TopoAfterDiscovery = false;
   kxJson::Value saved;
-  ASSERT_TRUE(a.SaveToJson(saved));
+  ASSERT_TRUE(s.SaveToJson(saved));
   EXPECT_FALSE(saved.isMember("buildL3TopoAfterDiscovery"));
   EXPECT_EQ(saved.size(), 9u);
   GlobalLiveSetting b;
   ASSERT_TRUE(b.LoadFromJson(saved));
-  EXPECT_EQ(b.domainName, "x");
-  EXPECT_TRUE(b.guessDeviceType);
-  EXPECT_TRUE(b.buildL3TopoAfterDiscovery);
+  EXPECT_EQ(b.domainName, "corp");
+  EXPECT_TRUE(b.guessDeviceType && b.buildL3TopoAfterDiscovery);
+
+  ASSERT_TRUE(b.LoadFromJson(Json(R"({"buildL3TopoAfterDiscovery": false})")));
+  EXPECT_FALSE(b.buildL3TopoAfterDiscovery);
+  ASSERT_TRUE(b.LoadFromJson(Json(R"({"buildL3TopoAfterDiscovery": null})")));
+  EXPECT_FALSE(b.buildL3TopoAfterDiscovery);  // present, even if null
 }
 
-TEST(GlobalPingAndSnmp, DefaultsAndLoading) {
+TEST(GlobalPingAndSnmp, Loading) {
   GlobalPingSetting ping;
-  EXPECT_EQ(ping.pingTimeout, 2);
-  EXPECT_EQ(ping.pingTryCount, 2);
   ASSERT_TRUE(ping.LoadFromJson(Json(R"({"pingTimeout": 5, "pingTryCount": 1})")));
-  EXPECT_EQ(ping.pingTimeout, 5);
-  EXPECT_EQ(ping.pingTryCount, 1);
-
+  EXPECT_EQ(std::make_pair(ping.pingTimeout, ping.pingTryCount), std::make_pair(5, 1));
   GlobalSnmpSetting snmp;
-  EXPECT_EQ(snmp.snmpPort, 161);
-  EXPECT_EQ(snmp.snmpAccessibleOid, "1.3.6.1.2.1.1.3.0");
-  EXPECT_FALSE(snmp.isEncryptUsername);
-  EXPECT_EQ(snmp.snmpTimeout, 2);
   ASSERT_TRUE(snmp.LoadFromJson(Json(R"({"snmpPort": 1161, "snmpAccessibleOid": "1.3.6.1",
                                          "isEncryptUsername": true, "snmpTimeout": 9})")));
-  const GlobalSnmpSetting copy = snmp;
-  EXPECT_EQ(copy.snmpPort, 1161);
-  EXPECT_EQ(copy.snmpAccessibleOid, "1.3.6.1");
-  EXPECT_TRUE(copy.isEncryptUsername);
-  EXPECT_EQ(copy.snmpTimeout, 9);
-}
-
-TEST(GlobalSetting, SwitchesAreProcessWide) {
-  GlobalSetting::gCheckAcl_ = true;
-  GlobalSetting::gUseOrt_ = true;
-  GlobalSetting::maxRoutingPath_ = 8;
-  EXPECT_TRUE(GlobalSetting::gCheckAcl_);
-  EXPECT_TRUE(GlobalSetting::gUseOrt_);
-  EXPECT_EQ(GlobalSetting::maxRoutingPath_, 8);
+  EXPECT_EQ(std::make_tuple(snmp.snmpPort, snmp.snmpAccessibleOid, snmp.isEncryptUsername, snmp.snmpTimeout),
+            std::make_tuple(1161, std::string("1.3.6.1"), true, 9));
 }
 
 }  // namespace

@@ -10,6 +10,7 @@
 #include <optional>
 #include <string>
 #include <thread>
+#include <tuple>
 #include <vector>
 
 #include "common/testenv.h"
@@ -59,22 +60,21 @@ std::string Row(const std::string& full, const std::string& names, const std::st
 // ------------------------------------------------------------ type words
 
 TEST(IfNameTypeWord, SplitsAtFirstDigitOrUnderscore) {
-    std::string suffix = "untouched";
-    EXPECT_EQ(IfNameTransfersMgrAccess::TypeName("Loopback", suffix, true), "Loopback");
-    EXPECT_EQ(suffix, "untouched");
-    EXPECT_EQ(IfNameTransfersMgrAccess::TypeName("Gi0/1.100", suffix, true), "gi");
-    EXPECT_EQ(suffix, "0/1.100");
-    EXPECT_EQ(IfNameTransfersMgrAccess::TypeName("  Gi \t0/1", suffix, true), "gi");
-    EXPECT_EQ(suffix, "0/1");
-    EXPECT_EQ(IfNameTransfersMgrAccess::TypeName("Port_x1", suffix, false), "Port");
-    EXPECT_EQ(suffix, "_x1");
-    EXPECT_EQ(IfNameTransfersMgrAccess::TypeName("1/0/1", suffix, true), "");
-    EXPECT_EQ(suffix, "1/0/1");
+    // A word without digits leaves the suffix as it was, and is not lowered.
+    const std::tuple<const char*, bool, const char*, const char*> cases[] = {
+        {"Loopback", true, "Loopback", "untouched"}, {"Gi0/1.100", true, "gi", "0/1.100"},
+        {"  Gi \t0/1", true, "gi", "0/1"},           {"Port_x1", false, "Port", "_x1"},
+        {"1/0/1", true, "", "1/0/1"}};
+    for (const auto& [name, lower, type, rest] : cases) {
+        std::string suffix = "untouched";
+        EXPECT_EQ(IfNameTransfersMgrAccess::TypeName(name, suffix, lower), type) << name;
+        EXPECT_EQ(suffix, rest) << name;
+    }
 }
 
 // ------------------------------------------------------- shipped JSON table
 
-TEST(IfNameJson, ShippedTableExpandsEveryPossibleName) {
+TEST(IfNameJson, ShippedTableLookups) {
     ASSERT_TRUE(Mgr().LoadData());
     const std::string text =
         netloom_test::ReadFile(netloom_test::SourcePath("resources/MultiVendorData/InterfaceType.json"));
@@ -89,30 +89,17 @@ TEST(IfNameJson, ShippedTableExpandsEveryPossibleName) {
             EXPECT_EQ(Full("drv", printed + "1/0/2"), type["fullName"].asString() + "1/0/2") << printed;
         }
     }
-}
-
-TEST(IfNameJson, CommonSpellings) {
-    ASSERT_TRUE(Mgr().LoadData());
-    EXPECT_EQ(Full("ios", "Gi0/1"), "GigabitEthernet0/1");
-    EXPECT_EQ(Full("ios", "Gi 0/1"), "GigabitEthernet0/1");
-    EXPECT_EQ(Full("ios", "gi0/1.100"), "GigabitEthernet0/1.100");
-    EXPECT_EQ(Full("ios", "Te1/1/1"), "TenGigabitEthernet1/1/1");
-    EXPECT_EQ(Full("ios", "Hu0/0/0/1"), "HundredGigE0/0/0/1");
-    EXPECT_EQ(Full("nxos", "Eth1/49"), "Ethernet1/49");
-    EXPECT_EQ(Full("ios", "Po10"), "Port-channel10");
-    EXPECT_EQ(Full("vrp", "Eth-Trunk3"), "Eth-Trunk3");
-    EXPECT_EQ(Full("vrp", "XGE0/0/1"), "XGigabitEthernet0/0/1");
-    EXPECT_EQ(Full("xr", "BE100"), "Bundle-Ether100");
-    EXPECT_EQ(Full("ios", "Lo0"), "Loopback0");
-    EXPECT_EQ(Full("ios", "Vl20"), "Vlan20");
-    EXPECT_EQ(Full("ios", "Se0/0/0:1"), "Serial0/0/0:1");
-    EXPECT_EQ(Full("ios", "mgmt"), "mgmt");  // no digit: the whole name is the type word
-    // Unknown, empty driver, leading digit, unlowered digitless word: unchanged.
-    EXPECT_EQ(Full("ios", "Frobnicator7"), "Frobnicator7");
-    EXPECT_EQ(Full("", "Gi0/1"), "Gi0/1");
-    EXPECT_EQ(Full("ios", "100GE1/0/1"), "100GE1/0/1");
-    EXPECT_EQ(Full("ios", "MGMT"), "MGMT");
-    EXPECT_EQ(Full("ios", ""), "");
+    // Blanks, subinterfaces, names the table already spells out, and names
+    // left alone.
+    const std::tuple<const char*, const char*, const char*> cases[] = {
+        {"ios", "Gi 0/1", "GigabitEthernet0/1"}, {"ios", "gi0/1.100", "GigabitEthernet0/1.100"},
+        {"vrp", "Eth-Trunk3", "Eth-Trunk3"},     {"xr", "BE100", "Bundle-Ether100"},
+        {"ios", "Se0/0/0:1", "Serial0/0/0:1"},
+        {"ios", "mgmt", "mgmt"},  // no digit: the whole name is the type word
+        // Unknown, empty driver, leading digit, unlowered digitless word: unchanged.
+        {"ios", "Frobnicator7", "Frobnicator7"}, {"", "Gi0/1", "Gi0/1"}, {"ios", "100GE1/0/1", "100GE1/0/1"},
+        {"ios", "MGMT", "MGMT"},                 {"ios", "", ""}};
+    for (const auto& [driver, name, want] : cases) EXPECT_EQ(Full(driver, name), want) << name;
 }
 
 // ---------------------------------------------------- databases and drivers
@@ -184,17 +171,6 @@ TEST(IfNameDb, FailuresAreReportedAndLogged) {
     EXPECT_FALSE(Mgr().LoadDataFromDB("", junk));
     EXPECT_EQ(Full("d", "Gi1"), "GigabitEthernet1");
 
-    // A database without the table.
-    {
-        const std::string path = netloom_test::MakeTempDir("other") + "InterfaceType.db";
-        CppSQLite3DB db;
-        db.open(path.c_str());
-        db.execDML("create table Other (data text)");
-        db.close();
-        EXPECT_FALSE(Mgr().LoadDataFromDB("", path));
-        EXPECT_EQ(Full("d", "Gi1"), "GigabitEthernet1");
-    }
-
     // The table without the column: the failure comes while rows are read,
     // so the table is left as far as it got (emptied).
     logged.clear();
@@ -202,14 +178,9 @@ TEST(IfNameDb, FailuresAreReportedAndLogged) {
     EXPECT_EQ(Full("d", "Gi1"), "Gi1");
     ASSERT_FALSE(logged.empty());
     ILogger::GetInstance()->SetObserver(nullptr);
-}
-
-TEST(IfNameDb, LoadingForgetsCachedMisses) {
-    ASSERT_TRUE(Mgr().LoadDataFromDB("", MakeDb({})));
-    EXPECT_EQ(Full("d", "Gi0/1"), "Gi0/1");  // a cached "unknown"
-    EXPECT_EQ(Full("d", "Gi0/1"), "Gi0/1");
+    // A good load forgets the misses cached meanwhile.
     ASSERT_TRUE(Mgr().LoadData());
-    EXPECT_EQ(Full("d", "Gi0/1"), "GigabitEthernet0/1");
+    EXPECT_EQ(Full("d", "Gi1"), "GigabitEthernet1");
 }
 
 TEST(IfNameDb, InstanceLoadsDatabaseFromParserDataFolder) {
@@ -232,53 +203,25 @@ TEST(IfNameDb, InstanceLoadsDatabaseFromParserDataFolder) {
 
 // ----------------------------------------------------- the SQLite wrapper
 
-TEST(SqliteWrapper, QueriesStatementsAndErrors) {
-    const std::string path = netloom_test::MakeTempDir("sql") + "t.db";
+// Failed opens and NULL cells are covered by the loads above.
+TEST(SqliteWrapper, BlobsAndErrors) {
     CppSQLite3DB db;
     EXPECT_THROW(db.execDML("select 1"), CppSQLite3Exception);  // not open
-    db.open(path.c_str());
-    EXPECT_FALSE(db.tableExists("T"));
-    db.execDML("create table T (name text, n integer)");
+    db.open((netloom_test::MakeTempDir("sql") + "t.db").c_str());
+    db.execDML("create table T (name text)");
     EXPECT_TRUE(db.tableExists("T"));
     EXPECT_FALSE(db.tableExists("T'; drop table T; --"));
-    CppSQLite3Statement insert = db.compileStatement("insert into T values (?, ?)");
+    CppSQLite3Statement insert = db.compileStatement("insert into T values (?)");
     insert.bind(1, std::string("a\0b", 3));
-    insert.bind(2, 7);
-    EXPECT_EQ(insert.execDML(), 1);
-    insert.bindNull(1);
-    insert.bind(2, -1);
-    EXPECT_EQ(insert.execDML(), 1);
-    EXPECT_EQ(db.execScalar("select count(*) from T"), 2);
-
-    CppSQLite3Query q = db.execQuery("select * from T order by n desc");
-    ASSERT_FALSE(q.eof());
-    EXPECT_EQ(q.numFields(), 2);
-    EXPECT_STREQ(q.fieldName(1), "n");
+    insert.execDML();
+    CppSQLite3Query q = db.execQuery("select * from T");
     EXPECT_EQ(q.getStringField("NAME"), std::string("a\0b", 3));  // any case, NUL kept
-    EXPECT_EQ(q.getIntField("n"), 7);
     EXPECT_THROW(q.getStringField("missing"), CppSQLite3Exception);
     EXPECT_THROW(q.getStringField(5), CppSQLite3Exception);
     q.nextRow();
-    ASSERT_FALSE(q.eof());
-    EXPECT_TRUE(q.fieldIsNull(0));
-    EXPECT_EQ(q.getStringField(0, "null!"), "null!");
-    q.nextRow();
-    EXPECT_TRUE(q.eof());
     q.nextRow();  // past the end stays at the end
     EXPECT_TRUE(q.eof());
-
-    try {
-        db.execQuery("select * from Nowhere");
-        FAIL() << "no exception";
-    } catch (const CppSQLite3Exception& e) {
-        EXPECT_NE(std::string(e.errorMessage()).find("Nowhere"), std::string::npos);
-    }
     EXPECT_THROW(db.compileStatement("not sql"), CppSQLite3Exception);
-    db.close();
-    CppSQLite3DB missing;
-    const std::string nowhere = netloom_test::MakeTempDir("sql") + "none.db";
-    EXPECT_THROW(missing.open(nowhere.c_str(), false), CppSQLite3Exception);
-    EXPECT_FALSE(std::filesystem::exists(nowhere));
 }
 
 // ------------------------------------------------------------------ cache
@@ -291,8 +234,7 @@ TEST(IfNameCache, ProcessCachePrunesAt5200) {
     Full("driver-last", "Gi0/1");
     EXPECT_EQ(IfNameTransfersMgrAccess::CachedTypeCount(), 5000u);
     // Answers stay right after the purge, for kept and dropped keys alike.
-    EXPECT_EQ(Full("driver0", "Gi0/1"), "GigabitEthernet0/1");
-    EXPECT_EQ(Full("driver5198", "Gi0/1"), "GigabitEthernet0/1");
+    EXPECT_EQ(Full("driver0", "Gi0/1") + Full("driver5198", "Gi0/1"), "GigabitEthernet0/1GigabitEthernet0/1");
 }
 
 TEST(LruCache, PrunesOldestInBulkAndKeepsFirstValue) {
@@ -307,27 +249,17 @@ TEST(LruCache, PrunesOldestInBulkAndKeepsFirstValue) {
     cache.insert(5199, 0);  // the 5,200th key
     EXPECT_EQ(cache.size(), 5000u);
     // The 200 oldest went: 2..201; 0 and 1 were used recently and stay.
-    EXPECT_TRUE(cache.contains(0));
-    EXPECT_TRUE(cache.contains(1));
-    EXPECT_FALSE(cache.contains(2));
-    EXPECT_FALSE(cache.contains(201));
-    EXPECT_TRUE(cache.contains(202));
-    EXPECT_FALSE(cache.get(2, v));
-    cache.clear();
-    EXPECT_EQ(cache.size(), 0u);
+    for (int k : {0, 1, 202, 5199}) EXPECT_TRUE(cache.contains(k)) << k;
+    for (int k : {2, 201}) EXPECT_FALSE(cache.contains(k)) << k;
 }
 
-TEST(LruCache, NoLimitAndExpiry) {
-    lru::Cache<int, int> unbounded(0, 0);
-    for (int i = 0; i < 20000; ++i) unbounded.insert(i, i);
-    EXPECT_EQ(unbounded.size(), 20000u);
-
+TEST(LruCache, Expiry) {
     lru::Cache<int, int> expiring(10, 0, 1);
     expiring.insert(1, 1);
     int v = 0;
     EXPECT_TRUE(expiring.get(1, v));
     std::this_thread::sleep_for(std::chrono::milliseconds(2100));
-    EXPECT_FALSE(expiring.get(1, v));
+    EXPECT_FALSE(expiring.get(1, v));  // an expired entry is dropped when found
     EXPECT_FALSE(expiring.contains(1));
 }
 

@@ -25,93 +25,59 @@ std::string UsePrivateResourceFolder() {
   return TWFileSystem::GetSystemResourceFolder() == dir ? dir : std::string();
 }
 
-#define REQUIRE_PRIVATE_RESOURCES(dir)                                                 \
-  const std::string dir = UsePrivateResourceFolder();                                 \
-  if (dir.empty()) {                                                                   \
-    GTEST_SKIP() << "resource folder already fixed in this process";                 \
-  }                                                                                    \
-  static_assert(true, "")
+#define REQUIRE_PRIVATE_RESOURCES(dir)              \
+  const std::string dir = UsePrivateResourceFolder(); \
+  if (dir.empty()) GTEST_SKIP() << "resource folder already fixed in this process"
 
-TEST(L3Packet, DefaultsMeanAny) {
-  const L3Packet p;
-  EXPECT_TRUE(p.SourceIP.isNull());
-  EXPECT_TRUE(p.DestinationIP.isNull());
-  EXPECT_EQ(p.Protocol, -1);
-  EXPECT_EQ(p.SourcePort, 0xFFFF);
-  EXPECT_EQ(p.DestinationPort, 0xFFFF);
-  EXPECT_EQ(p.Reserved, 0u);
-
-  const L3Packet addressesOnly("10.0.0.1", "10.0.0.2");
-  EXPECT_EQ(addressesOnly.SourceIP.textForm(), "10.0.0.1");
-  EXPECT_EQ(addressesOnly.DestinationIP.textForm(), "10.0.0.2");
-  EXPECT_EQ(addressesOnly.Protocol, -1);
-  EXPECT_EQ(addressesOnly.SourcePort, 0xFFFF);
-  EXPECT_EQ(addressesOnly.DestinationPort, 0xFFFF);
-}
-
-TEST(L3Packet, BadAddressTextIsZero) {
+TEST(L3Packet, DefaultsBadTextAndPorts) {
+  const L3Packet any("10.0.0.1", "10.0.0.2");
+  EXPECT_EQ(any.Protocol, -1);
+  EXPECT_EQ(any.SourcePort, 0xFFFF);
+  EXPECT_EQ(any.DestinationPort, 0xFFFF);
+  EXPECT_EQ(L3Packet().Reserved, 0u);
+  // Bad address text is zero.
   EXPECT_TRUE(L3Packet("bad", "10.0.0.2").SourceIP.isNull());
-  EXPECT_TRUE(L3Packet("10.0.0.1", "10.0.0.256", 6, 1, 2).DestinationIP.isNull());
   L3Packet p("10.0.0.1", "10.0.0.2");
   p.SetSourceIP("1.2.3.4 ");
-  p.SetDestinationIP("");
   EXPECT_TRUE(p.SourceIP.isNull());
-  EXPECT_TRUE(p.DestinationIP.isNull());
+  // Ports keep the low sixteen bits.
+  const L3Packet q("10.0.0.1", "10.0.0.2", 17, static_cast<short>(-1), 0x12345);
+  EXPECT_EQ(q.SourcePort, 0xFFFF);
+  EXPECT_EQ(q.DestinationPort, 0x2345);
+  p.SetSourcePort(0x10050);
+  p.SetDestinationPort(-2);
+  EXPECT_EQ(p.SourcePort, 0x50);
+  EXPECT_EQ(p.DestinationPort, 0xFFFE);
 }
 
-TEST(L3Packet, PortsKeepTheLowSixteenBits) {
-  const L3Packet p("10.0.0.1", "10.0.0.2", 17, static_cast<short>(-1), 0x12345);
-  EXPECT_EQ(p.SourcePort, 0xFFFF);
-  EXPECT_EQ(p.DestinationPort, 0x2345);
-  L3Packet q;
-  q.SetSourcePort(0x10050);
-  q.SetDestinationPort(-2);
-  q.SetProtocol(6);
-  EXPECT_EQ(q.SourcePort, 0x50);
-  EXPECT_EQ(q.DestinationPort, 0xFFFE);
-  EXPECT_EQ(q.Protocol, 6);
-}
-
-TEST(L3Packet, EqualityIgnoresTheReservedWord) {
+TEST(L3Packet, EqualityIgnoresTheReservedWordAndReverseSwaps) {
   const L3Packet base(IpAddress(0x0A000001u), IpAddress(0x0A000002u), 6, 1024, 80);
   L3Packet other = base;
   other.Reserved = 0xDEADBEEF;
   EXPECT_TRUE(base == other);
 
   // Every other field counts.
-  L3Packet diff = base;
-  diff.SetProtocol(17);
-  EXPECT_FALSE(base == diff);
-  diff = base;
-  diff.SetSourcePort(1025);
-  EXPECT_FALSE(base == diff);
-  diff = base;
-  diff.SetDestinationPort(81);
-  EXPECT_FALSE(base == diff);
-  diff = base;
-  diff.SetSourceIP("10.0.0.3");
-  EXPECT_FALSE(base == diff);
-  diff = base;
-  diff.SetDestinationIP("10.0.0.3");
-  EXPECT_FALSE(base == diff);
+  for (int field = 0; field < 5; ++field) {
+    L3Packet diff = base;
+    if (field == 0) diff.SetProtocol(17);
+    if (field == 1) diff.SetSourcePort(1025);
+    if (field == 2) diff.SetDestinationPort(81);
+    if (field == 3) diff.SetSourceIP("10.0.0.3");
+    if (field == 4) diff.SetDestinationIP("10.0.0.3");
+    EXPECT_FALSE(base == diff) << field;
+  }
 
   // Port 0 is a real port, not "any".
   L3Packet anyPort("10.0.0.1", "10.0.0.2");
   L3Packet zeroPort = anyPort;
   zeroPort.SetDestinationPort(0);
   EXPECT_FALSE(anyPort == zeroPort);
-}
 
-TEST(L3Packet, ReverseSwapsAddressesAndPorts) {
-  const L3Packet p("10.0.0.1", "192.168.1.1", 6, 40000, 443);
-  const L3Packet r = p.getReverse();
-  EXPECT_EQ(r.SourceIP.textForm(), "192.168.1.1");
-  EXPECT_EQ(r.DestinationIP.textForm(), "10.0.0.1");
-  EXPECT_EQ(r.SourcePort, 443);
-  EXPECT_EQ(r.DestinationPort, 40000);
-  EXPECT_EQ(r.Protocol, 6);
-  EXPECT_FALSE(r == p);
-  EXPECT_TRUE(r.getReverse() == p);
+  // The reverse swaps addresses and ports.
+  const L3Packet r = base.getReverse();
+  EXPECT_EQ(r.SourceIP.textForm(), "10.0.0.2");
+  EXPECT_EQ(r.SourcePort, 80);
+  EXPECT_TRUE(r.getReverse() == base);
 }
 
 std::list<STransProtocol> AllRows() {
@@ -122,16 +88,11 @@ std::list<STransProtocol> AllRows() {
 
 TEST(STransProtocol, ValidOnlyForOneByteNumbers) {
   STransProtocol row;
-  EXPECT_EQ(row.GetNumber(), -1);
   EXPECT_FALSE(row.IsValid());
-  row.SetNumber(0);
-  EXPECT_TRUE(row.IsValid());
-  row.SetNumber(255);
-  EXPECT_TRUE(row.IsValid());
-  row.SetNumber(256);
-  EXPECT_FALSE(row.IsValid());
-  row.SetNumber(-5);
-  EXPECT_FALSE(row.IsValid());
+  for (int n : {0, 255, 256, -5}) {
+    row.SetNumber(n);
+    EXPECT_EQ(row.IsValid(), n >= 0 && n <= 255) << n;
+  }
 }
 
 TEST(TransProtocolCatalogue, ShippedFileCoversEveryNumber) {
@@ -150,38 +111,25 @@ TEST(TransProtocolCatalogue, ShippedFileCoversEveryNumber) {
     const int last = dash == std::string::npos ? first : std::atoi(cell.c_str() + dash + 1);
     ASSERT_TRUE(first >= 0 && first <= last && last < 256) << cell;
     for (int n = first; n <= last; ++n) ++seen[n];
-    EXPECT_EQ(file.GetRow(static_cast<int>(row)).size(), 4u) << cell;
   }
   for (int n = 0; n < 256; ++n) EXPECT_EQ(seen[n], n == 84 ? 2 : 1) << n;
 
   // The catalogue holds every data row, in file order.
   const std::list<STransProtocol> rows = AllRows();
   EXPECT_EQ(rows.size(), file.size() - 1);
-  EXPECT_EQ(rows.front().GetNumber(), 0);
-  EXPECT_EQ(rows.front().GetKeyWord(), "HOPOPT");
   EXPECT_EQ(rows.back().GetNumber(), 255);
 }
 
 TEST(TransProtocolCatalogue, WellKnownLookups) {
   TransProtocolHelper* helper = TransProtocolHelper::Instance();
-  EXPECT_EQ(helper->GetIPProtocolKeywordByNumber(1), "ICMP");
-  EXPECT_EQ(helper->GetIPProtocolKeywordByNumber(6), "TCP");
   EXPECT_EQ(helper->GetIPProtocolKeywordByNumber(17), "UDP");
-  EXPECT_EQ(helper->GetIPProtocolKeywordByNumber(47), "GRE");
-  EXPECT_EQ(helper->GetIPProtocolKeywordByNumber(89), "OSPFIGP");
-  EXPECT_EQ(helper->GetIPProtocolKeywordByNumber(112), "VRRP");
   // 84 is listed twice; the first row of a number stays.
   EXPECT_EQ(helper->GetIPProtocolKeywordByNumber(84), "TTP");
   EXPECT_EQ(helper->GetIPProtocolNumberByKeyword("IPTM"), 84);
   EXPECT_EQ(helper->GetIPProtocolKeywordByNumber(-1), "");
   EXPECT_EQ(helper->GetIPProtocolKeywordByNumber(256), "");
-
-  EXPECT_EQ(helper->GetIPProtocolNumberByKeyword("TCP"), 6);
   EXPECT_EQ(helper->GetIPProtocolNumberByKeyword("IPv6-ICMP"), 58);
-  EXPECT_EQ(helper->GetIPProtocolNumberByKeyword("tcp"), -1);
-  EXPECT_EQ(helper->GetIPProtocolNumberByKeyword("Tcp"), -1);
-  EXPECT_EQ(helper->GetIPProtocolNumberByKeyword(""), -1);
-  EXPECT_EQ(helper->GetIPProtocolNumberByKeyword("NOPE"), -1);
+  EXPECT_EQ(helper->GetIPProtocolNumberByKeyword("Tcp"), -1);  // case counts
 }
 
 TEST(TransProtocolCatalogue, ItemLookupsFillOrLeaveTheOutput) {
@@ -189,11 +137,8 @@ TEST(TransProtocolCatalogue, ItemLookupsFillOrLeaveTheOutput) {
   STransProtocol row;
   ASSERT_TRUE(helper->GetProtocolItem(17, row));
   EXPECT_EQ(row.GetKeyWord(), "UDP");
-  EXPECT_EQ(row.GetProtocol(), "User Datagram");
   EXPECT_EQ(row.GetRef(), "[RFC768][Jon_Postel]");
 
-  ASSERT_TRUE(helper->GetProtocolItem(std::string("SCTP"), row));
-  EXPECT_EQ(row.GetNumber(), 132);
 
   // A quoted reference with commas and doubled quotes reads back whole.
   ASSERT_TRUE(helper->GetProtocolItem(std::string("MUX"), row));
@@ -205,49 +150,35 @@ TEST(TransProtocolCatalogue, ItemLookupsFillOrLeaveTheOutput) {
   untouched.SetKeyWord("keep");
   EXPECT_FALSE(helper->GetProtocolItem(300, untouched));
   EXPECT_FALSE(helper->GetProtocolItem(std::string("udp"), untouched));
-  EXPECT_FALSE(helper->GetProtocolItem(std::string(), untouched));
   EXPECT_EQ(untouched.GetNumber(), 7);
   EXPECT_EQ(untouched.GetKeyWord(), "keep");
-}
 
-TEST(TransProtocolCatalogue, GetAllReplacesTheCallersList) {
-  std::list<STransProtocol> rows(3);
-  const std::size_t total = AllRows().size();
-  TransProtocolHelper::Instance()->GetAllProtocol(rows);
-  EXPECT_EQ(rows.size(), total);
+  std::list<STransProtocol> rows(3);  // replaced, not appended to
+  helper->GetAllProtocol(rows);
+  EXPECT_EQ(rows.size(), AllRows().size());
 }
 
 TEST(TransProtocolCatalogue, ConcurrentFirstUseLoadsOnce) {
   constexpr int kThreads = 8;
-  std::atomic<int> ready{0};
   std::atomic<bool> go{false};
   std::vector<std::string> keywords(kThreads);
   std::vector<std::size_t> sizes(kThreads);
   std::vector<std::thread> threads;
   for (int t = 0; t < kThreads; ++t) {
     threads.emplace_back([&, t] {
-      ++ready;
       while (!go.load()) std::this_thread::yield();
-      TransProtocolHelper* helper = TransProtocolHelper::Instance();
-      keywords[t] = helper->GetIPProtocolKeywordByNumber(6);
-      std::list<STransProtocol> rows;
-      helper->GetAllProtocol(rows);
-      sizes[t] = rows.size();
+      keywords[t] = TransProtocolHelper::Instance()->GetIPProtocolKeywordByNumber(6);
+      sizes[t] = AllRows().size();
     });
   }
-  while (ready.load() < kThreads) std::this_thread::yield();
   go = true;
   for (std::thread& th : threads) th.join();
 
   // A second load would have appended the file again.
-  std::list<STransProtocol> rows;
-  TransProtocolHelper::Instance()->GetAllProtocol(rows);
+  const std::list<STransProtocol> rows = AllRows();
   std::set<int> seen;
-  for (const STransProtocol& row : rows) {
-    if (row.GetNumber() != 84) {
-      EXPECT_TRUE(seen.insert(row.GetNumber()).second) << row.GetNumber();
-    }
-  }
+  for (const STransProtocol& row : rows)
+    EXPECT_TRUE(row.GetNumber() == 84 || seen.insert(row.GetNumber()).second) << row.GetNumber();
   for (int t = 0; t < kThreads; ++t) {
     EXPECT_EQ(keywords[t], "TCP");
     EXPECT_EQ(sizes[t], rows.size());
@@ -303,7 +234,6 @@ TEST(TransProtocolCatalogueFile, HostileNumbersAndDuplicateKeys) {
   EXPECT_EQ(helper->GetIPProtocolNumberByKeyword("BIG"), 2147483647);
   EXPECT_EQ(helper->GetIPProtocolNumberByKeyword("SMALL"), -2147483647 - 1);
   EXPECT_EQ(helper->GetIPProtocolNumberByKeyword("TRAIL"), 42);
-  EXPECT_EQ(helper->GetIPProtocolKeywordByNumber(0), "");
   EXPECT_EQ(helper->GetIPProtocolKeywordByNumber(50), "ESP");
   EXPECT_EQ(helper->GetIPProtocolNumberByKeyword("ESP"), 50);
   EXPECT_EQ(helper->GetIPProtocolNumberByKeyword("ESP2"), 50);

@@ -40,9 +40,12 @@ struct Pair {
   RoutingTable src{"left"}, dst{"right"};
   RTCmpElement a, b;
   RoutingTableCmp cmp;
-  Pair() : cmp(&a, &b) {
+  Pair(const std::vector<RoutingTableEntry>& left = {}, const std::vector<RoutingTableEntry>& right = {})
+      : cmp(&a, &b) {
     a.Table = &src;
     b.Table = &dst;
+    Fill(src, left);
+    Fill(dst, right);
   }
   std::vector<Row> Run(bool keepEqual = true) {
     EXPECT_TRUE(cmp.CompareRT(keepEqual, nullptr));
@@ -70,8 +73,7 @@ TEST(RouteCmp, EqualTablesWithoutKeepingPairsGiveNothingButTheCount) {
 }
 
 TEST(RouteCmp, FieldDifferencesAndUnknownValues) {
-  Pair p;
-  Fill(p.src, {Route("10.1.0.0", 16, "10.0.0.1", "Vlan1", 20), Route("10.2.0.0", 16, "10.0.0.1", "Vlan1", 0xFFFFFFFF),
+  Pair p({Route("10.1.0.0", 16, "10.0.0.1", "Vlan1", 20), Route("10.2.0.0", 16, "10.0.0.1", "Vlan1", 0xFFFFFFFF),
                Route("10.3.0.0", 16, "10.0.0.1", "Vlan1", 20, 65535), Route("10.4.0.0", 16, "10.0.0.1", "Vlan1")});
   RoutingTableEntry changedAll = Route("10.4.0.0", 16, "10.0.0.9", "Vlan9", 21, 90);
   changedAll.Alg = RT_ALG_EIGRP;
@@ -91,13 +93,12 @@ TEST(RouteCmp, FieldDifferencesAndUnknownValues) {
 }
 
 TEST(RouteCmp, RemovedRoutesAndNewRoutes) {
-  Pair p;
-  Fill(p.src, {Route("10.1.1.0", 24, "10.0.0.1", "Vlan1", 20),  // carried on by the /16 that remains
+  Pair p({Route("10.1.1.0", 24, "10.0.0.1", "Vlan1", 20),  // carried on by the /16 that remains
                Route("10.1.0.0", 16, "10.0.0.1", "Vlan1", 30),
                Route("192.168.1.0", 24, "10.0.0.1", "Vlan1"),   // nothing covers it
                Route("10.2.1.0", 24, "10.0.0.7", "Vlan1"),      // the /16 goes elsewhere
-               Route("10.2.0.0", 16, "10.0.0.1", "Vlan1")});
-  Fill(p.dst, {Route("10.1.0.0", 16, "10.0.0.1", "Vlan1", 30), Route("172.16.0.0", 12, "10.0.0.1", "Vlan1"),
+               Route("10.2.0.0", 16, "10.0.0.1", "Vlan1")},
+         {Route("10.1.0.0", 16, "10.0.0.1", "Vlan1", 30), Route("172.16.0.0", 12, "10.0.0.1", "Vlan1"),
                Route("10.2.0.0", 16, "10.0.0.1", "Vlan1")});
   EXPECT_EQ(p.Run(false), (std::vector<Row>{{0x4000, 0, 2},
                                             {0x8000, 4, 0},
@@ -108,32 +109,28 @@ TEST(RouteCmp, RemovedRoutesAndNewRoutes) {
 
 TEST(RouteCmp, LoadBalancedGroups) {
   // Two against two, one path changed: the whole group is marked.
-  Pair p;
-  Fill(p.src, {Route("10.1.0.0", 16, "10.0.0.1", "Vlan1"), Route("10.1.0.0", 16, "10.0.0.2", "Vlan2")});
-  Fill(p.dst, {Route("10.1.0.0", 16, "10.0.0.1", "Vlan1"), Route("10.1.0.0", 16, "10.0.0.3", "Vlan3")});
+  Pair p({Route("10.1.0.0", 16, "10.0.0.1", "Vlan1"), Route("10.1.0.0", 16, "10.0.0.2", "Vlan2")},
+         {Route("10.1.0.0", 16, "10.0.0.1", "Vlan1"), Route("10.1.0.0", 16, "10.0.0.3", "Vlan3")});
   EXPECT_EQ(p.Run(false), (std::vector<Row>{{0x100, 1, 1}, {0x100, 2, 2}}));
   EXPECT_EQ(p.cmp.GetEqualCount(), 0u);
 
   // Two against three: the third path has no partner.
-  Pair q;
-  Fill(q.src, {Route("10.1.0.0", 16, "10.0.0.1", "Vlan1"), Route("10.1.0.0", 16, "10.0.0.2", "Vlan2")});
-  Fill(q.dst, {Route("10.1.0.0", 16, "10.0.0.2", "Vlan2"), Route("10.1.0.0", 16, "10.0.0.1", "Vlan1"),
+  Pair q({Route("10.1.0.0", 16, "10.0.0.1", "Vlan1"), Route("10.1.0.0", 16, "10.0.0.2", "Vlan2")},
+         {Route("10.1.0.0", 16, "10.0.0.2", "Vlan2"), Route("10.1.0.0", 16, "10.0.0.1", "Vlan1"),
                Route("10.1.0.0", 16, "10.0.0.3", "Vlan3")});
   EXPECT_EQ(q.Run(false), (std::vector<Row>{{0x100, 1, 2}, {0x100, 2, 1}, {0x100, 0, 3}}));
 
   // The same paths in another order are an equal group.
-  Pair r;
-  Fill(r.src, {Route("10.1.0.0", 16, "10.0.0.1", "Vlan1"), Route("10.1.0.0", 16, "10.0.0.2", "Vlan2")});
-  Fill(r.dst, {Route("10.1.0.0", 16, "10.0.0.2", "Vlan2"), Route("10.1.0.0", 16, "10.0.0.1", "Vlan1")});
+  Pair r({Route("10.1.0.0", 16, "10.0.0.1", "Vlan1"), Route("10.1.0.0", 16, "10.0.0.2", "Vlan2")},
+         {Route("10.1.0.0", 16, "10.0.0.2", "Vlan2"), Route("10.1.0.0", 16, "10.0.0.1", "Vlan1")});
   EXPECT_TRUE(r.Run(false).empty());
   EXPECT_EQ(r.cmp.GetEqualCount(), 2u);
   EXPECT_EQ(r.Run(true), (std::vector<Row>{{0, 1, 2}, {0, 2, 1}}));
 }
 
 TEST(RouteCmp, SelectedIndexesAndNullSides) {
-  Pair p;
-  Fill(p.src, {Route("10.1.0.0", 16, "10.0.0.1", "Vlan1"), Route("10.2.0.0", 16, "10.0.0.1", "Vlan1")});
-  Fill(p.dst, {Route("10.1.0.0", 16, "10.0.0.1", "Vlan1")});
+  Pair p({Route("10.1.0.0", 16, "10.0.0.1", "Vlan1"), Route("10.2.0.0", 16, "10.0.0.1", "Vlan1")},
+         {Route("10.1.0.0", 16, "10.0.0.1", "Vlan1")});
   std::set<unsigned> first = {1};
   p.a.Indexes = &first;
   EXPECT_EQ(p.Run(false), std::vector<Row>{});
@@ -143,62 +140,54 @@ TEST(RouteCmp, SelectedIndexesAndNullSides) {
   RTCmpElement empty;
   RoutingTableCmp nullTable(&p.a, &empty);
   EXPECT_FALSE(nullTable.CompareRT(true, nullptr));
-}
 
-TEST(RouteCmp, SubnetListLimitsBothSides) {
-  Pair p;
-  Fill(p.src, {Route("10.1.0.0", 16, "10.0.0.1", "Vlan1"), Route("10.2.0.0", 16, "10.0.0.1", "Vlan1")});
-  Fill(p.dst, {Route("10.1.0.0", 16, "10.0.0.1", "Vlan1"), Route("10.2.0.0", 16, "10.0.0.9", "Vlan1")});
+  // A subnet list limits both sides.
+  Pair s({Route("10.1.0.0", 16, "10.0.0.1", "Vlan1"), Route("10.2.0.0", 16, "10.0.0.1", "Vlan1")},
+         {Route("10.1.0.0", 16, "10.0.0.1", "Vlan1"), Route("10.2.0.0", 16, "10.0.0.9", "Vlan1")});
   SubnetListData subnets("watch", "");
   SubnetEntry host;
   host.address = IpAddress("10.1.2.3").bitForm();
   host.mask = 0xFFFFFFFF;
   subnets.AddSubnetEntry(host);
-  ASSERT_TRUE(p.cmp.CompareRT(false, &subnets));
-  EXPECT_TRUE(p.Rows().empty());
-  EXPECT_EQ(p.cmp.GetEqualCount(), 1u);
+  ASSERT_TRUE(s.cmp.CompareRT(false, &subnets));
+  EXPECT_TRUE(s.Rows().empty());
+  EXPECT_EQ(s.cmp.GetEqualCount(), 1u);
 }
 
 TEST(RouteCmp, KeyedComparisonPairsByKeyAndTestsTheRest) {
-  Pair p;
-  Fill(p.src, {Route("10.1.0.0", 16, "10.0.0.1", "Vlan1"), Route("10.2.0.0", 16, "10.0.0.1", "Vlan1")});
-  Fill(p.dst, {Route("10.1.0.0", 24, "10.0.0.1", "Vlan1"), Route("10.2.0.0", 16, "10.0.0.1", "Vlan1", 99)});
+  Pair p({Route("10.1.0.0", 16, "10.0.0.1", "Vlan1"), Route("10.2.0.0", 16, "10.0.0.1", "Vlan1")},
+         {Route("10.1.0.0", 24, "10.0.0.1", "Vlan1"), Route("10.2.0.0", 16, "10.0.0.1", "Vlan1", 99)});
   // Keyed by address alone: the /16 and the /24 pair up and differ in their mask.
   ASSERT_TRUE(p.cmp.CompareRTEx(false, nullptr, {CI_DEST_IP}));
   EXPECT_EQ(p.Rows(), (std::vector<Row>{{0x200, 2, 2}, {0x10000, 1, 1}}));
 
   // Keyed by address and mask: the /16 is gone and the /24 new; the search
   // for a comparable route goes by address, so the /24 is named as carrier.
-  Pair q;
-  Fill(q.src, {Route("10.1.0.0", 16, "10.0.0.1", "Vlan1"), Route("10.7.0.0", 16, "10.0.0.1", "Vlan1")});
-  Fill(q.dst, {Route("10.1.0.0", 24, "10.0.0.1", "Vlan1")});
+  Pair q({Route("10.1.0.0", 16, "10.0.0.1", "Vlan1"), Route("10.7.0.0", 16, "10.0.0.1", "Vlan1")},
+         {Route("10.1.0.0", 24, "10.0.0.1", "Vlan1")});
   ASSERT_TRUE(q.cmp.CompareRTEx(false, nullptr, {CI_DEST_IP, CI_DEST_MASK}));
   EXPECT_EQ(q.Rows(), (std::vector<Row>{{0x4000, 0, 1}, {0x8000, 2, 0}, {0x8008, 1, 1}}));
 
   // Unknown values count in the keyed test.
-  Pair r;
-  Fill(r.src, {Route("10.1.0.0", 16, "10.0.0.1", "Vlan1", 0xFFFFFFFF)});
-  Fill(r.dst, {Route("10.1.0.0", 16, "10.0.0.1", "Vlan1", 5)});
+  Pair r({Route("10.1.0.0", 16, "10.0.0.1", "Vlan1", 0xFFFFFFFF)},
+         {Route("10.1.0.0", 16, "10.0.0.1", "Vlan1", 5)});
   ASSERT_TRUE(r.cmp.CompareRTEx(false, nullptr, {CI_DEST_IP, CI_DEST_MASK}));
   EXPECT_EQ(r.Rows(), (std::vector<Row>{{0x200, 1, 1}}));
   ASSERT_TRUE(r.cmp.CompareRTEx(false, nullptr, {CI_DEST_IP, CI_DEST_MASK, CI_METRIC}));
   EXPECT_TRUE(r.Rows().empty());
-}
 
-TEST(RouteCmp, KeyedGroupsMatchLikeLoadBalancedGroups) {
-  Pair p;
-  Fill(p.src, {Route("10.1.0.0", 16, "10.0.0.1", "Vlan1"), Route("10.1.0.0", 16, "10.0.0.2", "Vlan2")});
-  Fill(p.dst, {Route("10.1.0.0", 16, "10.0.0.1", "Vlan1"), Route("10.1.0.0", 16, "10.0.0.3", "Vlan3")});
-  ASSERT_TRUE(p.cmp.CompareRTEx(false, nullptr, {CI_DEST_IP, CI_DEST_MASK}));
-  EXPECT_EQ(p.Rows(), (std::vector<Row>{{0x100, 1, 1}, {0x100, 2, 2}}));
+  // Keyed groups match like load-balanced groups.
+  Pair g({Route("10.1.0.0", 16, "10.0.0.1", "Vlan1"), Route("10.1.0.0", 16, "10.0.0.2", "Vlan2")},
+         {Route("10.1.0.0", 16, "10.0.0.1", "Vlan1"), Route("10.1.0.0", 16, "10.0.0.3", "Vlan3")});
+  ASSERT_TRUE(g.cmp.CompareRTEx(false, nullptr, {CI_DEST_IP, CI_DEST_MASK}));
+  EXPECT_EQ(g.Rows(), (std::vector<Row>{{0x100, 1, 1}, {0x100, 2, 2}}));
 }
 
 TEST(RouteCmpFile, SavedComparisonRoundTrips) {
   const std::string dir = netloom_test::MakeTempDir("cmp");
-  Pair p;
-  Fill(p.src, {Route("10.1.0.0", 16, "10.0.0.1", "Vlan1", 20), Route("10.2.0.0", 16, "10.0.0.1", "Vlan1"),
-               Route("10.3.0.0", 16, "10.0.0.1", "Vlan1")});
-  Fill(p.dst, {Route("10.1.0.0", 16, "10.0.0.1", "Vlan1", 30), Route("10.2.0.0", 16, "10.0.0.1", "Vlan1"),
+  Pair p({Route("10.1.0.0", 16, "10.0.0.1", "Vlan1", 20), Route("10.2.0.0", 16, "10.0.0.1", "Vlan1"),
+               Route("10.3.0.0", 16, "10.0.0.1", "Vlan1")},
+         {Route("10.1.0.0", 16, "10.0.0.1", "Vlan1", 30), Route("10.2.0.0", 16, "10.0.0.1", "Vlan1"),
                Route("10.4.0.0", 16, "10.0.0.1", "Vlan1")});
   p.Run(false);
   ASSERT_EQ(p.cmp.GetCmpEntryList().size(), 3u);

@@ -13,9 +13,7 @@
 
 namespace {
 
-using netloom_test::MakeTempDir;
-using netloom_test::ReadFile;
-using netloom_test::WriteFile;
+using namespace netloom_test;
 
 const std::string kHeader = "version:1.0,hostname:core-1\nInterface,IP Address,MAC Address,Vendor\n";
 
@@ -28,9 +26,7 @@ ArpTable LoadText(const std::string& text) {
 
 ArpRecord Row(const std::string& ip, const std::string& mac, const std::string& intf) {
   ArpRecord r;
-  r.Ip = ip;
-  r.Mac = mac;
-  r.Interface = intf;
+  r.Ip = ip, r.Mac = mac, r.Interface = intf;
   return r;
 }
 
@@ -57,22 +53,14 @@ TEST(ArpTableLoad, CsvRowsAreCheckedNormalisedAndDeduplicated) {
   EXPECT_EQ("core-1", t.GetHostname());
   ASSERT_EQ(3u, t.GetCount());
   EXPECT_EQ("0011.2233.4455", t[0].Mac);
-  EXPECT_EQ("Gi0/1", t[0].Interface);
-  EXPECT_EQ(0, t[0].Number);
   EXPECT_EQ("", t[0].Vendor) << "the reader never takes the Vendor column";
   EXPECT_EQ("Gi0/2", t[1].Interface);
-  EXPECT_EQ("", t[2].Interface);
   EXPECT_EQ("0011.2233.4457", t[2].Mac);
-}
 
-TEST(ArpTableLoad, HostNameIsTakenOnlyWhenRowOneCarriesIt) {
-  ArpTable t;
-  t.SetHostname("kept");
-  std::istringstream empty("\nInterface,IP Address,MAC Address\nGi1,1.1.1.1,0011.2233.4455\n");
-  ASSERT_TRUE(t.LoadArpTable(empty));
-  EXPECT_EQ("kept", t.GetHostname());
-  EXPECT_EQ(1u, t.GetCount());
-
+  // The host name comes from row one only, wherever in it the tag stands.
+  std::istringstream noName("\nInterface,IP Address,MAC Address\nGi1,1.1.1.1,0011.2233.4455\n");
+  ASSERT_TRUE(t.LoadArpTable(noName));
+  EXPECT_EQ("core-1", t.GetHostname());
   std::istringstream anywhere("x,my hostname:r1:hostname:b\nInterface,IP Address,MAC Address\n");
   ASSERT_TRUE(t.LoadArpTable(anywhere));
   EXPECT_EQ("r1:hostname:b", t.GetHostname());
@@ -84,13 +72,15 @@ TEST(ArpTableLoad, WrongHeaderFallsBackToTextForm) {
   ArpTable t = LoadText(text);
   // Four lines a row, the header line first; the trailing line alone is dropped.
   ASSERT_EQ(2u, t.GetCount());
-  EXPECT_EQ(0, t[0].Number);
   EXPECT_EQ("7", t[0].Interface) << "a CR ends the line";
-  EXPECT_EQ("Gi0/1", t[0].Ip);
   EXPECT_EQ("10.0.0.1", t[0].Mac);
   EXPECT_EQ(11, t[1].Number) << "atoi stops at the first dot";
-  EXPECT_EQ("9", t[1].Interface);
-  EXPECT_EQ("10.0.0.9", t[1].Mac);
+
+  ArpTable raw = LoadText("-3\nGi0/1\n10.0.0.1\nnot-a-mac\n5\nx\n");
+  ASSERT_EQ(1u, raw.GetCount());
+  EXPECT_EQ(-3, raw[0].Number);
+  EXPECT_EQ("not-a-mac", raw[0].Mac) << "text-form rows are taken as they stand";
+  EXPECT_EQ(0u, LoadText("").GetCount());
 
   std::istringstream again(text);
   ArpTable imported;
@@ -98,18 +88,7 @@ TEST(ArpTableLoad, WrongHeaderFallsBackToTextForm) {
   EXPECT_EQ(0u, imported.GetCount());
 }
 
-TEST(ArpTableLoad, TextFormRowsAreTakenAsTheyStand) {
-  ArpTable t = LoadText("12\nGi0/1\n10.0.0.1\nnot-a-mac\n-3\nGi0/2\n10.0.0.1\nnot-a-mac\n5\nx\n");
-  ASSERT_EQ(2u, t.GetCount());
-  EXPECT_EQ(12, t[0].Number);
-  EXPECT_EQ("not-a-mac", t[0].Mac);
-  EXPECT_EQ(-3, t[1].Number);
-
-  ArpTable empty = LoadText("");
-  EXPECT_EQ(0u, empty.GetCount());
-}
-
-TEST(ArpTableLoad, RoundTripKeepsRowsAndLosesVendor) {
+TEST(ArpTableLoad, FilesAndRoundTrip) {
   ArpTable t;
   t.SetHostname("edge, \"quoted\"");
   ArpRecord r = Row("10.1.1.1", "aabb.ccdd.eeff", "Port-channel1.100");
@@ -117,38 +96,25 @@ TEST(ArpTableLoad, RoundTripKeepsRowsAndLosesVendor) {
   t.InsertArpRecord(r);
   std::ostringstream out;
   ASSERT_TRUE(t.SaveArpTable(out));
-  EXPECT_NE(std::string::npos, out.str().find("Acme"));
-
   ArpTable back = LoadText(out.str());
   EXPECT_EQ("edge, \"quoted\"", back.GetHostname());
   ASSERT_EQ(1u, back.GetCount());
-  EXPECT_EQ("10.1.1.1", back[0].Ip);
-  EXPECT_EQ("aabb.ccdd.eeff", back[0].Mac);
   EXPECT_EQ("Port-channel1.100", back[0].Interface);
-  EXPECT_EQ("", back[0].Vendor);
-
   std::ostringstream failed;
   failed.setstate(std::ios::badbit);
   EXPECT_FALSE(t.SaveArpTable(failed));
-}
 
-TEST(ArpTableLoad, FileLoadSetsNameAndTime) {
   const std::string dir = MakeTempDir("arp");
   const std::string path = WriteFile(dir + "arp.csv", kHeader + "Gi1,1.1.1.1,0011.2233.4455\n");
+  ArpTable f;
+  ASSERT_TRUE(f.LoadArpTable(path, false));
+  EXPECT_EQ(path, f.GetFileName());
   struct stat st {};
   ASSERT_EQ(0, ::stat(path.c_str(), &st));
-
-  ArpTable t;
-  ASSERT_TRUE(t.LoadArpTable(path, false));
-  EXPECT_EQ(path, t.GetFileName());
-  EXPECT_EQ(static_cast<int64_t>(st.st_mtime), t.GetTime());
-  EXPECT_EQ(1u, t.GetCount());
-
-  // The check-only form reads nothing and leaves the rows alone.
-  EXPECT_TRUE(t.LoadArpTable(path, true));
-  EXPECT_EQ(1u, t.GetCount());
-  EXPECT_FALSE(t.LoadArpTable(dir + "missing.csv", true));
-  EXPECT_FALSE(t.LoadArpTable(dir + "missing.csv", false));
+  EXPECT_EQ(static_cast<int64_t>(st.st_mtime), f.GetTime());
+  EXPECT_TRUE(f.LoadArpTable(path, true));  // check-only: the file is there
+  EXPECT_FALSE(f.LoadArpTable(dir + "missing.csv", true));
+  EXPECT_FALSE(f.LoadArpTable(dir + "missing.csv", false));
 
   ArpTable imported;
   ASSERT_TRUE(imported.ImportArpTable(path, "override", 0));
@@ -156,11 +122,9 @@ TEST(ArpTableLoad, FileLoadSetsNameAndTime) {
   EXPECT_EQ("", imported.GetFileName());
   EXPECT_FALSE(imported.ImportArpTable(dir + "missing.csv", "x", 0));
 
-  const std::string saved = dir + "saved.csv";
-  ASSERT_TRUE(t.SaveArpTable(saved));
-  EXPECT_EQ(ReadFile(saved), "version:1.0,hostname:core-1\nInterface,IP Address,MAC Address,Vendor\n"
-                             "Gi1,1.1.1.1,0011.2233.4455,\n");
-  EXPECT_FALSE(t.ExportArpTable(dir + "no/such/folder/x.csv"));
+  ASSERT_TRUE(f.SaveArpTable(dir + "saved.csv"));
+  EXPECT_EQ(kHeader + "Gi1,1.1.1.1,0011.2233.4455,\n", ReadFile(dir + "saved.csv"));
+  EXPECT_FALSE(f.ExportArpTable(dir + "no/such/folder/x.csv"));
 }
 
 // ---------------------------------------------------------------- index
@@ -177,7 +141,12 @@ TEST(ArpTableIndex, RepeatedAddressFindsTheFirstRowInBothStates) {
   EXPECT_EQ("", walk.GenLogOfUnmormalIndex()) << "an index never made valid reports nothing";
   EXPECT_EQ("Gi1", walk.FindMacfromArpTable("1.1.1.1").Interface);
   EXPECT_EQ("", walk.FindMacfromArpTable("1.1.1.2").Interface);
-  EXPECT_EQ("", ArpTable().FindMacfromArpTable("1.1.1.1").Ip);
+
+  // Insert offers empty addresses to the index, a rebuild skips them.
+  ArpTable empty = Table({Row("", "a", "Gi1"), Row("1.1.1.1", "b", "Gi2")});
+  empty.SetIndexValid();
+  empty.RemoveArpRecord(9u);
+  EXPECT_EQ(" Rcd 2, index 1, ", empty.GenLogOfUnmormalIndex());
 }
 
 TEST(ArpTableIndex, RemovingByPositionLeavesAValidIndexStale) {
@@ -195,18 +164,6 @@ TEST(ArpTableIndex, RemovingByPositionLeavesAValidIndexStale) {
   EXPECT_EQ("", t.GenLogOfUnmormalIndex());
   EXPECT_EQ("Gi2", t.FindMacfromArpTable("2.2.2.2").Interface);
   EXPECT_EQ("", t.FindMacfromArpTable("1.1.1.1").Interface);
-
-  ArpTable copy(t);
-  copy.RemoveArpRecord(0u);
-  EXPECT_EQ(" Rcd 0, index 1, ", copy.GenLogOfUnmormalIndex()) << "a copy carries the valid flag";
-}
-
-TEST(ArpTableIndex, InsertOffersEmptyAddressesButRebuildSkipsThem) {
-  ArpTable t = Table({Row("", "a", "Gi1"), Row("1.1.1.1", "b", "Gi2")});
-  t.SetIndexValid();
-  EXPECT_EQ("", t.GenLogOfUnmormalIndex());
-  t.RemoveArpRecord(9u);
-  EXPECT_EQ(" Rcd 2, index 1, ", t.GenLogOfUnmormalIndex());
 }
 
 TEST(ArpTableIndex, RemovingByMacRebuildsAValidIndex) {
@@ -222,47 +179,24 @@ TEST(ArpTableIndex, RemovingByMacRebuildsAValidIndex) {
   EXPECT_EQ(0u, t.GetCount());
 }
 
-TEST(ArpTableIndex, ClearKeepsNamesAndTime) {
-  ArpTable t = Table({Row("1.1.1.1", "a", "Gi1")});
-  t.SetHostname("h");
-  t.SetFileName("f");
-  t.SetTime(42);
-  t.SetIndexValid();
-  t.Clear();
-  EXPECT_EQ(0u, t.GetCount());
-  EXPECT_EQ("h", t.GetHostname());
-  EXPECT_EQ("f", t.GetFileName());
-  EXPECT_EQ(42, t.GetTime());
-  EXPECT_EQ("", t.GenLogOfUnmormalIndex());
-}
-
 // ---------------------------------------------------------------- filters
 
 TEST(ArpTableFilter, SubstringMatchesAppendWithoutClearing) {
   ArpTable t = Table({Row("10.0.0.1", "aabb.ccdd.eeff", "GigabitEthernet0/1"), Row("10.0.1.1", "0011.2233.4455", "Vlan10")});
-  ArpTable out;
-  out.SetHostname("mine");
-  ArpRecord pre = Row("9.9.9.9", "x", "y");
-  out.InsertArpRecord(pre);
-
+  ArpTable out = Table({Row("9.9.9.9", "x", "y")});
   t.FilterArpTableWithIp(out, ".0.0.");
   t.FilterArpTableWithMac(out, "CCDD");
   t.FilterArpTableWithPort(out, "vlan");
   ASSERT_EQ(4u, out.GetCount());
   EXPECT_EQ("9.9.9.9", out[0].Ip);
-  EXPECT_EQ("10.0.0.1", out[1].Ip);
   EXPECT_EQ("10.0.0.1", out[2].Ip);
   EXPECT_EQ("10.0.1.1", out[3].Ip);
-  EXPECT_EQ("mine", out.GetHostname());
 
   ArpTable none;
   t.FilterArpTableWithIp(none, "10.0.0.1A");
-  EXPECT_EQ(0u, none.GetCount());
   t.FilterArpTableWithPort(none, "");
-  EXPECT_EQ(2u, none.GetCount()) << "an empty filter matches every row";
-
-  ArpTable ipCase = Table({Row("fe80::A", "m", "i")});
-  ArpTable hits;
+  EXPECT_EQ(2u, none.GetCount()) << "no partial hit; an empty filter matches every row";
+  ArpTable ipCase = Table({Row("fe80::A", "m", "i")}), hits;
   ipCase.FilterArpTableWithIp(hits, "fe80::a");
   EXPECT_EQ(0u, hits.GetCount()) << "the address filter keeps case";
 
@@ -271,67 +205,6 @@ TEST(ArpTableFilter, SubstringMatchesAppendWithoutClearing) {
 }
 
 // ---------------------------------------------------------------- compare
-
-std::vector<ArpRecordPair> Compare(ArpTable& l, ArpTable& r) {
-  std::vector<ArpRecordPair> out;
-  ArpTable().GetArpCompareResult(l, r, out);
-  return out;
-}
-
-TEST(ArpTableCompare, CodesForSameChangedAndMissingRows) {
-  ArpTable base = Table({Row("1.1.1.1", "a", "Gi1"), Row("2.2.2.2", "b", "Gi2"), Row("3.3.3.3", "c", "Gi3")});
-  for (const ArpRecordPair& p : Compare(base, base)) EXPECT_EQ(CommonTableCompareResult::m_iSame, p.Result);
-
-  ArpTable changed = base;
-  changed[1].Mac = "B-changed";
-  changed[2].Interface = "GI3";  // case does not count
-  auto out = Compare(base, changed);
-  ASSERT_EQ(3u, out.size());
-  EXPECT_EQ("1.1.1.1", out[0].Left.Ip);
-  EXPECT_EQ("3.3.3.3", out[1].Left.Ip) << "same rows come first";
-  EXPECT_EQ(CommonTableCompareResult::m_iSame, out[1].Result);
-  EXPECT_EQ(CommonTableCompareResult::m_iDiff, out[2].Result);
-  EXPECT_EQ("B-changed", out[2].Right.Mac);
-
-  ArpTable fewer = base;
-  fewer.RemoveArpRecord(0u);
-  out = Compare(base, fewer);
-  ASSERT_EQ(3u, out.size());
-  EXPECT_EQ(CommonTableCompareResult::m_iOnlyInleft, out[2].Result);
-  EXPECT_EQ("1.1.1.1", out[2].Left.Ip);
-  EXPECT_EQ("", out[2].Right.Ip);
-
-  out = Compare(fewer, base);
-  ASSERT_EQ(3u, out.size());
-  EXPECT_EQ(CommonTableCompareResult::m_iOnlyInRight, out[2].Result);
-  EXPECT_EQ("1.1.1.1", out[2].Right.Ip);
-  EXPECT_EQ("", out[2].Left.Ip);
-}
-
-TEST(ArpTableCompare, SecondPassLeavesTheRightRowFree) {
-  ArpTable left = Table({Row("1.1.1.1", "a", "Gi1"), Row("1.1.1.1", "b", "Gi2")});
-  ArpTable right = Table({Row("1.1.1.1", "c", "Gi1"), Row("1.1.1.1", "d", "Gi2")});
-  auto out = Compare(left, right);
-  // Both left rows pair with the first right row; the second right row shares
-  // the address of a left row in the result and so gets no line at all.
-  ASSERT_EQ(2u, out.size());
-  EXPECT_EQ("c", out[0].Right.Mac);
-  EXPECT_EQ("c", out[1].Right.Mac);
-  EXPECT_EQ(CommonTableCompareResult::m_iDiff, out[1].Result);
-}
-
-TEST(ArpTableCompare, ThirdPassLooksAtEarlierPairsAndEmptyAddresses) {
-  ArpTable left = Table({Row("1.1.1.1", "a", "Gi1")});
-  ArpTable right = Table({Row("9.9.9.9", "z", "Gi9"), Row("", "e1", "x"), Row("", "e2", "y")});
-  std::vector<ArpRecordPair> out = {{Row("9.9.9.9", "old", "p"), ArpRecord(), 256}};
-  ArpTable().GetArpCompareResult(left, right, out);
-  // 9.9.9.9 is on the left of an earlier pair: skipped. The first row without an
-  // address adds a pair whose left address is empty, which hides the second.
-  ASSERT_EQ(3u, out.size());
-  EXPECT_EQ(CommonTableCompareResult::m_iOnlyInleft, out[1].Result);
-  EXPECT_EQ("e1", out[2].Right.Mac);
-  EXPECT_EQ(CommonTableCompareResult::m_iOnlyInRight, out[2].Result);
-}
 
 // The compare as written, one quadratic pass after another.
 std::vector<ArpRecordPair> ModelCompare(const std::vector<ArpRecord>& L, const std::vector<ArpRecord>& R,
@@ -376,6 +249,7 @@ TEST(ArpTableCompare, AgreesWithTheQuadraticModel) {
         (side ? R : L).push_back(Row(pick({"1.1.1.1", "1.1.1.2", "", "A.b"}), pick({"m1", "M1", "m2"}),
                                      pick({"Gi1", "gi1", "Gi2", ""})));
     }
+    // A seeded earlier pair: the third pass looks at pairs it did not make.
     std::vector<ArpRecordPair> seed;
     if (round % 3 == 0) seed.push_back({Row(pick({"1.1.1.1", ""}), "s", "s"), ArpRecord(), 256});
     ArpTable l = Table(L), r = Table(R);
@@ -383,12 +257,10 @@ TEST(ArpTableCompare, AgreesWithTheQuadraticModel) {
     ArpTable().GetArpCompareResult(l, r, got);
     const std::vector<ArpRecordPair> want = ModelCompare(L, R, seed);
     ASSERT_EQ(want.size(), got.size()) << "round " << round;
-    for (size_t k = 0; k < want.size(); ++k) {
-      EXPECT_EQ(want[k].Result, got[k].Result) << "round " << round << " pair " << k;
-      EXPECT_EQ(want[k].Left.Mac, got[k].Left.Mac);
-      EXPECT_EQ(want[k].Right.Mac, got[k].Right.Mac);
-      EXPECT_EQ(want[k].Right.Interface, got[k].Right.Interface);
-    }
+    for (size_t k = 0; k < want.size(); ++k)
+      EXPECT_TRUE(want[k].Result == got[k].Result && want[k].Left.Mac == got[k].Left.Mac &&
+                  want[k].Right.Mac == got[k].Right.Mac && want[k].Right.Interface == got[k].Right.Interface)
+          << "round " << round << " pair " << k;
   }
 }
 

@@ -13,9 +13,7 @@
 
 namespace {
 
-using netloom_test::MakeTempDir;
-using netloom_test::ReadFile;
-using netloom_test::WriteFile;
+using namespace netloom_test;
 
 constexpr unsigned kNoVlan = 0x1000000;
 const std::string kRow1 = "version:1.0,hostname:sw1\n";
@@ -37,9 +35,7 @@ MacTable Import(const std::string& text) {
 
 MacRecord Rec(int64_t mac, const std::string& port, unsigned vlan = 1) {
   MacRecord r;
-  r.Mac = mac;
-  r.PortName = port;
-  r.VlanId = vlan;
+  r.Mac = mac, r.PortName = port, r.VlanId = vlan;
   return r;
 }
 
@@ -49,34 +45,18 @@ MacTable Table(const std::vector<MacRecord>& rows) {
   return t;
 }
 
-void WriteConf(const std::string& name, const std::string& text) {
-  WriteFile(TWFileSystem::GetSystemConfFolder() + name, text);
-}
-
 // ---------------------------------------------------------------- CSV form
 
 TEST(MacTableLoad, CsvColumnsVlanAndRoundTrip) {
   MacTable t = Import(kHeader +
                       "10,0011.2233.4455,Gi0/1,Cisco,10.0.0.1,host-a,users\n"
-                      ",00:11:22:33:44:66,Gi0/1\n"
-                      "v20,0011.2233.4477,Gi0/2,,,\n"
+                      ",00:11:22:33:44:66,Gi0/1\n"    // empty VLAN cell
+                      "v20,0011.2233.4477,Gi0/2,,,\n"  // VLAN cell not all digits
                       "30,not-a-mac,Gi0/3\n"
                       "30,0011.2233.4488\n");
-  EXPECT_EQ("given", t.GetHostname());
   EXPECT_EQ(2u, t.size());
   ASSERT_EQ(3u, t.GetRecordCount());
-  const MacRecord* a = t[0];
-  ASSERT_NE(nullptr, a);
-  EXPECT_EQ(0x001122334455LL, a->Mac);
-  EXPECT_EQ(10u, a->VlanId);
-  EXPECT_EQ("10.0.0.1", a->Ip);
-  EXPECT_EQ("host-a", a->DnsName);
-  EXPECT_EQ("users", a->VlanName);
-  EXPECT_EQ("", a->Vendor) << "Vendor is never read";
-  EXPECT_EQ(kNoVlan, t[1]->VlanId) << "empty VLAN cell";
-  EXPECT_EQ(kNoVlan, t[2]->VlanId) << "VLAN cell that is not all digits";
   EXPECT_EQ(nullptr, t[3]);
-
   std::ostringstream out;
   ASSERT_TRUE(t.ExportMacTable(out));
   EXPECT_EQ("version:1.0,hostname:given\n"
@@ -85,6 +65,7 @@ TEST(MacTableLoad, CsvColumnsVlanAndRoundTrip) {
                 ",0011.2233.4466,Gi0/1,,,,\n"
                 ",0011.2233.4477,Gi0/2,,,,\n",
             out.str());
+  EXPECT_EQ(kNoVlan, t[2]->VlanId);
 
   std::istringstream back(out.str());
   MacTable again;
@@ -92,23 +73,15 @@ TEST(MacTableLoad, CsvColumnsVlanAndRoundTrip) {
   EXPECT_EQ("given", again.GetHostname());
   EXPECT_TRUE(MacTable::IsSameTable(t, again));
   EXPECT_EQ("users", again[0]->VlanName);
-}
 
-TEST(MacTableLoad, OlderHeadersStillLoad) {
-  MacTable three = Import(kRow1 + "VLan ID,Mac Address,Port Name\n5,aabb.ccdd.eeff,Fa0/1,x,1.1.1.1,dns,vname\n"
-                                  "5,aabb.ccdd.eef0,Fa0/1\n");
-  ASSERT_EQ(2u, three.GetRecordCount());
-  // Fields 4 and 5 are read by position, field 6 only under its own name.
-  EXPECT_EQ("1.1.1.1", three[0]->Ip);
-  EXPECT_EQ("dns", three[0]->DnsName);
-  EXPECT_EQ("", three[0]->VlanName);
-  EXPECT_EQ("", three[1]->Ip);
-
-  MacTable other = Import(kRow1 + "VLan ID,Mac Address,Port Name,Vendor,IP,DNS,Name of VLAN\n"
-                                  "5,aabb.ccdd.eeff,Fa0/1,x,1.1.1.1,dns,vname\n");
-  ASSERT_EQ(1u, other.GetRecordCount());
-  EXPECT_EQ("1.1.1.1", other[0]->Ip);
-  EXPECT_EQ("", other[0]->VlanName);
+  // Older headers: fields 4 and 5 are read by position, field 6 only under its own name.
+  for (const char* columns : {"VLan ID,Mac Address,Port Name\n", "VLan ID,Mac Address,Port Name,Vendor,IP,DNS,Name of VLAN\n"}) {
+    MacTable old = Import(kRow1 + columns + "5,aabb.ccdd.eeff,Fa0/1,x,1.1.1.1,dns,vname\n");
+    ASSERT_EQ(1u, old.GetRecordCount());
+    EXPECT_EQ("1.1.1.1", old[0]->Ip);
+    EXPECT_EQ("dns", old[0]->DnsName);
+    EXPECT_EQ("", old[0]->VlanName) << columns;
+  }
 }
 
 TEST(MacTableLoad, TrimmedPortsAndDuplicatesCollapse) {
@@ -120,11 +93,10 @@ TEST(MacTableLoad, TrimmedPortsAndDuplicatesCollapse) {
                       "2,0011.2233.4455,Gi0/1,,10.0.0.1\n");
   EXPECT_EQ(1u, t.size());
   EXPECT_EQ(3u, t.GetRecordCount());
-  int64_t mac = 0x001122334455LL;
+  int64_t mac = 0x001122334455LL, unknown = 1;
   MacTable::PortVlanSet ports;
   ASSERT_TRUE(t.GetPortByMac(mac, ports));
   EXPECT_EQ((MacTable::PortVlanSet{{"Gi0/1", 1u}, {"Gi0/1", 2u}}), ports);
-  int64_t unknown = 1;
   EXPECT_FALSE(t.GetPortByMac(unknown, ports));
 }
 
@@ -138,7 +110,6 @@ TEST(MacTableLoad, WrongHeaderFallsBackToTextFormAndImportRefuses) {
   EXPECT_EQ(0x001122334455LL, t[0]->Mac);
   EXPECT_EQ(kNoVlan, t[1]->VlanId);
   EXPECT_EQ(0, t[1]->Mac) << "unreadable address text";
-  EXPECT_EQ("Gi0/2", t[1]->PortName);
 
   std::istringstream again(text);
   MacTable imported;
@@ -152,7 +123,6 @@ TEST(MacTableLoad, FilesByPath) {
   MacTable t;
   ASSERT_TRUE(t.LoadMacTable(path));
   EXPECT_EQ(path, t.GetFileName());
-  EXPECT_EQ("sw1", t.GetHostname());
   EXPECT_GT(t.GetTime(), 0);
   EXPECT_FALSE(t.LoadMacTable(dir + "missing"));
 
@@ -179,13 +149,20 @@ class MacTableSiteFilter : public ::testing::Test {
     std::remove((TWFileSystem::GetSystemConfFolder() + "fix_FilterMac.def").c_str());
     std::remove((TWFileSystem::GetSystemConfFolder() + "fix_FilterPort.def").c_str());
   }
+  static void WriteConf(const std::string& name, const std::string& text) {
+    WriteFile(TWFileSystem::GetSystemConfFolder() + name, text);
+  }
 };
 
 TEST_F(MacTableSiteFilter, WildcardPatternsDropRowsAtImportOnly) {
-  WriteConf("fix_FilterMac.def", "  0011.2233.44??\r\n\n\t\n");
-  WriteConf("fix_FilterPort.def", "Vl?\n");
   const std::string body = "1,0011.2233.4455,Gi0/1\n1,0011.2233.5555,Gi0/1\n1,0011.2233.5556,vl1\n"
                            "1,0011.2233.5557,Vl10\n";
+  EXPECT_EQ(4u, Import(kHeader + body).GetRecordCount());
+  EXPECT_TRUE(MacTableProbe::mFilterPort.empty());
+
+  // Missing files are looked for again at the next import.
+  WriteConf("fix_FilterMac.def", "  0011.2233.44??\r\n\n\t\n");
+  WriteConf("fix_FilterPort.def", "Vl?\n");
   MacTable t = Import(kHeader + body);
   ASSERT_EQ(2u, t.GetRecordCount());
   EXPECT_EQ(0x001122335555LL, t[0]->Mac);
@@ -203,59 +180,27 @@ TEST_F(MacTableSiteFilter, WildcardPatternsDropRowsAtImportOnly) {
   EXPECT_EQ(2u, Import(kHeader + body).GetRecordCount());
 }
 
-TEST_F(MacTableSiteFilter, MissingFileIsLookedForAgain) {
-  const std::string body = "1,0011.2233.4455,Gi0/1\n1,0011.2233.5555,Gi0/2\n";
-  EXPECT_EQ(2u, Import(kHeader + body).GetRecordCount());
-  EXPECT_TRUE(MacTableProbe::mFilterPort.empty());
-  WriteConf("fix_FilterPort.def", "gi0/2\n");
-  MacTable t = Import(kHeader + body);
-  ASSERT_EQ(1u, t.GetRecordCount());
-  EXPECT_EQ("Gi0/1", t[0]->PortName);
-}
-
 // ---------------------------------------------------------------- maps and filters
 
-TEST(MacTableMaps, RowsRunInPortOrder) {
-  MacTable t = Table({Rec(3, "Gi2"), Rec(1, "Gi1"), Rec(2, "Gi2"), Rec(1, "Gi3", 7)});
-  EXPECT_EQ(3u, t.size());
-  ASSERT_EQ(4u, t.GetRecordCount());
-  EXPECT_EQ(1, t[0]->Mac);
-  EXPECT_EQ(3, t[1]->Mac);
-  EXPECT_EQ(2, t[2]->Mac);
-  EXPECT_EQ("Gi3", t[3]->PortName);
-  EXPECT_EQ(nullptr, t[4]);
-  EXPECT_EQ(2u, t.GetMacPortMap().at(1).size());
-  t.SetHostname("h");
-  t.Clear();
-  EXPECT_EQ(0u, t.GetRecordCount());
-  EXPECT_TRUE(t.GetMacPortMap().empty());
-  EXPECT_EQ("h", t.GetHostname());
-}
+TEST(MacTableFilter, PortOrderAndFilters) {
+  MacTable order = Table({Rec(3, "Gi2"), Rec(1, "Gi1"), Rec(2, "Gi2"), Rec(1, "Gi3", 7)});
+  EXPECT_EQ(3u, order.size());
+  ASSERT_EQ(4u, order.GetRecordCount());
+  EXPECT_EQ(1, order[0]->Mac);
+  EXPECT_EQ(3, order[1]->Mac) << "rows run in port order";
+  EXPECT_EQ(2u, order.GetMacPortMap().at(1).size());
 
-TEST(MacTableFilter, MacPortAndVlan) {
   MacRecord named = Rec(0x00AA00BB1234LL, "Gi0/2", 20);
   named.VlanName = "Voice";
   MacTable t = Table({Rec(0x0011AABB0000LL, "GigabitEthernet0/1", 10), named});
-
-  MacTable out;
-  t.FilterMacTableWithMac(out, "aabb");  // bare digits
-  ASSERT_EQ(1u, out.GetRecordCount());
-  EXPECT_EQ("GigabitEthernet0/1", out[0]->PortName);
-  MacTable none;
-  t.FilterMacTableWithMac(none, "11aa.bb");  // a dot sends it to "0011.AABB.0000", which lacks it
-  EXPECT_EQ(0u, none.GetRecordCount());
-  t.FilterMacTableWithMac(none, "0011.aab");
-  EXPECT_EQ(1u, none.GetRecordCount());
-  MacTable dotted;
-  t.FilterMacTableWithMac(dotted, "BB12");  // only the bare digits "00AA00BB1234" hold it
-  EXPECT_EQ(1u, dotted.GetRecordCount());
-  t.FilterMacTableWithMac(dotted, "b.12");  // "00AA.00BB.1234"
-  EXPECT_EQ(2u, dotted.GetRecordCount());
-
-  MacTable ports;
-  t.FilterMacTableWithPort(ports, "gi");
-  EXPECT_EQ(2u, ports.GetRecordCount());
-
+  // Filter text with a dot is looked for in the dotted form, else in the bare digits.
+  const struct { const char* text; unsigned hits; } macCases[] = {
+      {"aabb", 1}, {"11aa.bb", 0}, {"0011.aab", 1}, {"BB12", 1}, {"b.12", 1}};
+  for (const auto& c : macCases) {
+    MacTable out;
+    t.FilterMacTableWithMac(out, c.text);
+    EXPECT_EQ(c.hits, out.GetRecordCount()) << c.text;
+  }
   MacTable vlans;
   t.FilterMacTableWithVlan(vlans, "10");
   ASSERT_EQ(1u, vlans.GetRecordCount());
@@ -263,48 +208,20 @@ TEST(MacTableFilter, MacPortAndVlan) {
   t.FilterMacTableWithVlan(vlans, "20");  // the named row matches by name only
   EXPECT_EQ(1u, vlans.GetRecordCount());
   t.FilterMacTableWithVlan(vlans, "voi");
-  EXPECT_EQ(2u, vlans.GetRecordCount());
   t.FilterMacTableWithVlan(vlans, "");
   EXPECT_EQ(4u, vlans.GetRecordCount()) << "not cleared; an empty filter takes all";
 
-  t.FilterMacTableWithPort(t, "");  // into itself
+  t.FilterMacTableWithPort(t, "gi");  // into itself, without case
   EXPECT_EQ(4u, t.GetRecordCount());
 }
 
 // ---------------------------------------------------------------- compare
 
-TEST(MacTableCompare, SameTableIgnoresNamesButNotPorts) {
-  MacRecord a = Rec(1, "Gi1"), b = Rec(2, "Gi2");
-  MacTable left = Table({a, b});
-  b.DnsName = "other";
-  b.Ip = "1.2.3.4";
-  MacTable right = Table({a, b});
+TEST(MacTableCompare, SameTableIgnoresNamesAndAddresses) {
+  MacRecord a = Rec(2, "Gi2"), b = a;
+  b.DnsName = "other", b.Ip = "1.2.3.4", b.VlanName = "v";
+  MacTable left = Table({Rec(1, "Gi1"), a}), right = Table({Rec(1, "GI1"), b});
   EXPECT_TRUE(MacTable::IsSameTable(left, right));
-
-  MacTable moved = Table({a, Rec(2, "Gi3")});
-  EXPECT_FALSE(MacTable::IsSameTable(left, moved));
-  MacTable vlan = Table({a, Rec(2, "GI2", 5)});
-  EXPECT_FALSE(MacTable::IsSameTable(left, vlan));
-  MacTable upper = Table({a, Rec(2, "GI2")});
-  EXPECT_TRUE(MacTable::IsSameTable(left, upper)) << "port names compare without case";
-  MacTable more = Table({a, b, Rec(3, "Gi3")});
-  EXPECT_FALSE(MacTable::IsSameTable(left, more));
-  MacTable swapped = Table({a, Rec(3, "Gi2")});
-  EXPECT_FALSE(MacTable::IsSameTable(left, swapped));
-}
-
-TEST(MacTableCompare, SecondPassUsesUpTheRightRow) {
-  MacTable left = Table({Rec(1, "Gi1"), Rec(1, "Gi2")});
-  MacTable right = Table({Rec(1, "Gi3"), Rec(9, "Gi9")});
-  std::vector<MacRecordPair> out;
-  ASSERT_TRUE(MacTableProbe::GetMacCompareResult(left, right, out, false));
-  ASSERT_EQ(3u, out.size());
-  EXPECT_EQ(CommonTableCompareResult::m_iDiff, out[0].Result);
-  EXPECT_EQ("Gi3", out[0].Right.PortName);
-  EXPECT_EQ(CommonTableCompareResult::m_iOnlyInleft, out[1].Result);
-  EXPECT_EQ(kNoVlan, out[1].Right.VlanId) << "an absent side is a new record";
-  EXPECT_EQ(CommonTableCompareResult::m_iOnlyInRight, out[2].Result);
-  EXPECT_EQ(9, out[2].Right.Mac);
 }
 
 std::vector<MacRecordPair> Model(MacTable& lt, MacTable& rt, bool sameOnly, bool& answer) {
@@ -357,6 +274,7 @@ TEST(MacTableCompare, AgreesWithTheQuadraticModel) {
       const int n = static_cast<int>(rng() % 6);
       for (int k = 0; k < n; ++k) {
         MacRecord rec = Rec(static_cast<int64_t>(rng() % 3), ports[rng() % 3], 1 + rng() % 2);
+        rec.DnsName = rng() % 2 ? "a" : "b";  // names never count
         t->InsertMacRecord(rec.PortName, rec);
       }
     }
@@ -365,13 +283,13 @@ TEST(MacTableCompare, AgreesWithTheQuadraticModel) {
     const auto expected = Model(l, r, sameOnly, want);
     std::vector<MacRecordPair> got;
     ASSERT_EQ(want, MacTableProbe::GetMacCompareResult(l, r, got, sameOnly)) << "round " << round;
+    EXPECT_TRUE(!sameOnly || want == MacTable::IsSameTable(l, r)) << "round " << round;
     ASSERT_EQ(expected.size(), got.size()) << "round " << round;
-    for (size_t k = 0; k < got.size(); ++k) {
-      EXPECT_EQ(expected[k].Result, got[k].Result);
-      EXPECT_EQ(expected[k].Left.PortName, got[k].Left.PortName);
-      EXPECT_EQ(expected[k].Right.PortName, got[k].Right.PortName);
-      EXPECT_EQ(expected[k].Right.Mac, got[k].Right.Mac);
-    }
+    for (size_t k = 0; k < got.size(); ++k)
+      EXPECT_TRUE(expected[k].Result == got[k].Result && expected[k].Left.PortName == got[k].Left.PortName &&
+                  expected[k].Right.PortName == got[k].Right.PortName && expected[k].Right.Mac == got[k].Right.Mac &&
+                  expected[k].Right.VlanId == got[k].Right.VlanId)
+          << "round " << round << " pair " << k;
   }
 }
 

@@ -40,6 +40,8 @@ TEST(CSVLineParser, SpecialCellsRoundTrip) {
       {" lead and trail ", "\ttab", "a\"b,c\nd"},
       {"last empty", ""},
       {"", "first empty"},
+      {""},  // one empty cell must not come back as a row of none
+      {"z"},
   };
   EXPECT_EQ(Read(Write(rows)), rows);
 }
@@ -59,73 +61,35 @@ TEST(CSVLineParser, RandomCellsRoundTrip) {
   }
 }
 
-TEST(CSVLineParser, SingleEmptyCellRowSurvives) {
-  // A row of one empty cell must not come back as a row of none.
-  const Rows rows = {{"a"}, {""}, {"b"}};
-  EXPECT_EQ(Read(Write(rows)), rows);
-}
+TEST(CSVLineParser, ReadsHandWrittenText) {
+  const struct {
+    const char* text;
+    Rows rows;
+  } cases[] = {
+      {"a,b\r\nc,\"d\r\ne\"\r\n\"f\"\r\n", {{"a", "b"}, {"c", "d\r\ne"}, {"f"}}},
+      {"a\nb,c,d\n,\ne,f\n", {{"a"}, {"b", "c", "d"}, {"", ""}, {"e", "f"}}},  // ragged
+      {"a\n\nb", {{"a"}, {}, {"b"}}},  // blank line; last row without its end
+      {"", {}},
+      // An unterminated quote runs to the end of input.
+      {"a,b\nc,\"open cell\nstill open,\"\"x\r\n", {{"a", "b"}, {"c", "open cell\nstill open,\"x"}}},
+      {"x,\"abc", {{"x", "abc"}}},
+      // Text after a closing quote and quotes inside unquoted cells are data;
+      // a quote not at a cell's start opens nothing.
+      {"\"ab\"cd,e\"f\"g,h\n", {{"abcd", "e\"f\"g", "h"}}},
+      {"a\"b,c\nd\n", {{"a\"b", "c"}, {"d"}}},
+  };
+  for (const auto& c : cases) EXPECT_EQ(Read(c.text), c.rows) << c.text;
 
-TEST(CSVLineParser, CrlfRowEnds) {
-  const Rows rows = Read("a,b\r\nc,\"d\r\ne\"\r\n\"f\"\r\n");
-  EXPECT_EQ(rows, (Rows{{"a", "b"}, {"c", "d\r\ne"}, {"f"}}));
-}
-
-TEST(CSVLineParser, RaggedRowsKeepTheirLength) {
-  const Rows rows = Read("a\nb,c,d\n,\ne,f\n");
-  EXPECT_EQ(rows, (Rows{{"a"}, {"b", "c", "d"}, {"", ""}, {"e", "f"}}));
   // Reusing one object for a shorter row leaves no cells of the longer one.
   std::istringstream in("1,2,3,4\n5\n");
   CSVLineParser line("");
-  ASSERT_TRUE(line.ReadFromStream(in));
-  ASSERT_TRUE(line.ReadFromStream(in));
-  EXPECT_EQ(line.size(), 1u);
+  ASSERT_TRUE(line.ReadFromStream(in) && line.ReadFromStream(in));
   EXPECT_THROW(line.GetAt(1), CSVLineParser::Range);
   EXPECT_FALSE(line.ReadFromStream(in));
-}
-
-TEST(CSVLineParser, BlankLineIsAnEmptyRowAndEndIsFalse) {
-  std::istringstream in("a\n\nb");
-  CSVLineParser line("");
-  ASSERT_TRUE(line.ReadFromStream(in));
-  ASSERT_TRUE(line.ReadFromStream(in));
-  EXPECT_EQ(line.size(), 0u);
-  ASSERT_TRUE(line.ReadFromStream(in));  // last row without a line end
-  EXPECT_EQ(line.GetAt(0), "b");
-  EXPECT_FALSE(line.ReadFromStream(in));
-  std::istringstream empty("");
-  EXPECT_FALSE(line.ReadFromStream(empty));
-}
-
-TEST(CSVLineParser, UnterminatedQuoteEndsAtEndOfInput) {
-  Rows rows = Read("a,b\nc,\"open cell\nstill open,\"\"x\r\n");
-  ASSERT_EQ(rows.size(), 2u);
-  EXPECT_EQ(rows[1], (std::vector<std::string>{"c", "open cell\nstill open,\"x"}));
-  rows = Read("\"");
-  EXPECT_EQ(rows, (Rows{{""}}));
-  rows = Read("x,\"abc");
-  EXPECT_EQ(rows, (Rows{{"x", "abc"}}));
-}
-
-TEST(CSVLineParser, LenientReading) {
-  // Text after a closing quote and quotes inside unquoted cells are data.
-  EXPECT_EQ(Read("\"ab\"cd,e\"f\"g,h\n"), (Rows{{"abcd", "e\"f\"g", "h"}}));
-  // A quote that is not at a cell's start opens nothing: the next line is a new row.
-  EXPECT_EQ(Read("a\"b,c\nd\n"), (Rows{{"a\"b", "c"}, {"d"}}));
-}
-
-TEST(CSVLineParser, GetAtAndSetAt) {
-  CSVLineParser line("");
   line.SetAt(3, "d");
-  EXPECT_EQ(line.size(), 4u);
-  EXPECT_EQ(line.GetAt(0), "");
-  EXPECT_EQ(line.GetAt(3), "d");
   line.SetAt(-1, "ignored");
-  EXPECT_EQ(line.size(), 4u);
-  EXPECT_THROW(line.GetAt(4), CSVLineParser::Range);
+  EXPECT_EQ(line.ToString(), "5,,,d");
   EXPECT_THROW(line.GetAt(-1), CSVLineParser::Range);
-  EXPECT_EQ(line.ToString(), ",,,d");
-  line.ParseLine("x,\"y,z\"");
-  EXPECT_EQ(line.Fields(), (std::vector<std::string>{"x", "y,z"}));
 }
 
 TEST(CSVLineParser, HugeSingleLine) {
@@ -139,28 +103,20 @@ TEST(CSVLineParser, HugeSingleLine) {
 TEST(CSVParser, RowsAndCells) {
   CSVParser csv("");
   csv.SetAt(2, 1, "b");
-  EXPECT_EQ(csv.size(), 3u);
-  EXPECT_EQ(csv.GetAt(2, 1), "b");
-  EXPECT_THROW(csv.GetAt(0, 0), CSVLineParser::Range);
-  EXPECT_THROW(csv.GetAt(3, 0), CSVLineParser::Range);
-  EXPECT_THROW(csv.GetAt(-1), CSVLineParser::Range);
   csv.SetAt(-1, 0, "x");
   csv.SetAt(0, -1, "x");
   EXPECT_EQ(csv.size(), 3u);
+  EXPECT_THROW(csv.GetAt(0, 0), CSVLineParser::Range);
+  EXPECT_THROW(csv.GetAt(3, 0), CSVLineParser::Range);
 
   CSVLineParser row("");
   row.ParseLine("p,q");
-  csv.SetAt(0, row);
   csv.Append(row);
-  EXPECT_EQ(csv.size(), 4u);
-  EXPECT_EQ(csv.GetAt(3, 1), "q");
-  csv.GetAt(3).SetAt(1, "r");
-  EXPECT_EQ(csv.GetAt(3, 1), "r");
-  csv.Delete(1);
-  csv.Delete(17);
-  csv.Delete(-1);
+  csv.GetAt(3).SetAt(1, "r");  // a reference into the table
+  for (int i : {1, 17, -1}) csv.Delete(i);
   EXPECT_EQ(csv.size(), 3u);
   EXPECT_EQ(csv.GetAt(1, 1), "b");
+  EXPECT_EQ(csv.GetAt(2, 1), "r");
 }
 
 std::vector<std::string> Column0(const CSVParser& csv) {
@@ -181,10 +137,6 @@ TEST(CSVParser, Insert) {
   a.Insert(src, 1, false, 1);
   EXPECT_EQ(Column0(a), (std::vector<std::string>{"d0", "s1", "s2", "d1"}));
 
-  CSVParser b = dst;
-  b.Insert(src, 0, true, 0);
-  EXPECT_EQ(Column0(b), (std::vector<std::string>{"d0", "d1", "s0", "s1", "s2"}));
-
   CSVParser c = dst;
   c.Insert(src, 2, true, 4);  // never before row 4: rows 2 and 3 are added empty
   EXPECT_EQ(Column0(c), (std::vector<std::string>{"d0", "d1", "<empty>", "<empty>", "s2"}));
@@ -192,16 +144,11 @@ TEST(CSVParser, Insert) {
   CSVParser d = dst;
   d.Insert(d, 0, false, 0);  // from itself
   EXPECT_EQ(Column0(d), (std::vector<std::string>{"d0", "d1", "d0", "d1"}));
-
-  CSVParser e = dst;
-  e.Insert(src, 3, false, 0);  // nothing to copy
-  EXPECT_EQ(e.size(), 2u);
 }
 
 TEST(CSVParser, FileRoundTrip) {
   const std::string path = netloom_test::MakeTempDir("csv") + "t.csv";
   CSVParser out("");
-  out.SetAt(0, 0, "version:1.0");
   out.SetAt(1, 0, "a,b");
   out.SetAt(1, 2, "multi\nline");
   out.SetAt(2, 0, "");
@@ -211,9 +158,7 @@ TEST(CSVParser, FileRoundTrip) {
   CSVParser in("");
   ASSERT_TRUE(in.LoadFromFile(path));
   ASSERT_EQ(in.size(), 3u);
-  EXPECT_EQ(in.GetAt(1, 0), "a,b");
-  EXPECT_EQ(in.GetAt(1, 1), "");
-  EXPECT_EQ(in.GetAt(1, 2), "multi\nline");
+  EXPECT_EQ(in.GetRow(1).Fields(), (std::vector<std::string>{"a,b", "", "multi\nline"}));
   EXPECT_EQ(in.GetAt(2, 1), "\"q\"");
 
   // A failed load empties the parser.

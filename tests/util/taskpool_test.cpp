@@ -4,7 +4,7 @@
 
 #include <atomic>
 #include <chrono>
-#include <condition_variable>
+#include <future>
 #include <memory>
 #include <mutex>
 #include <set>
@@ -38,23 +38,12 @@ class RecordingPool : public CTWTaskPool {
   int begins = 0, ends = 0;  // thread ids may be reused after a join
 };
 
-// Blocks until opened; counts its runs.
-class Gate {
- public:
-  void Open() {
-    std::lock_guard<std::mutex> lock(m_mutex);
-    m_open = true;
-    m_cv.notify_all();
-  }
-  void Pass() {
-    std::unique_lock<std::mutex> lock(m_mutex);
-    m_cv.wait(lock, [&] { return m_open; });
-  }
-
- private:
-  std::mutex m_mutex;
-  std::condition_variable m_cv;
-  bool m_open = false;
+// Blocks the tasks that pass it until opened.
+struct Gate {
+  std::promise<void> open;
+  std::shared_future<void> opened = open.get_future().share();
+  void Open() { open.set_value(); }
+  void Pass() { opened.wait(); }
 };
 
 class Task : public IRunTask {
@@ -93,7 +82,6 @@ TEST(TaskPool, InitialWorkersAreReadyWhenInitReturns) {
     EXPECT_EQ(pool.begun.size(), 3u);
   }
   EXPECT_TRUE(pool.Stop(true, true).empty());
-  EXPECT_FALSE(pool.IsRunning());
   EXPECT_EQ(pool.GetThreadCount(), 0u);
   EXPECT_EQ(pool.ended, pool.begun);
   EXPECT_FALSE(pool.wrongThread);
