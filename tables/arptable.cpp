@@ -30,20 +30,7 @@ const char* const kHostTag = "hostname:";
 const char* const kColumns[] = {"Interface", "IP Address", "MAC Address", "Vendor"};
 constexpr size_t kRequiredColumns = 3;
 
-// Host name from row 1: all after the first "hostname:" in field 1.
-void TakeHostname(const CSVLineParser& row, std::string& hostname) {
-  if (row.size() < 2) return;
-  const std::string& field = row.Field(1);
-  const size_t at = field.find(kHostTag);
-  if (at != std::string::npos) hostname = field.substr(at + std::char_traits<char>::length(kHostTag));
-}
 
-bool HeaderMatches(const CSVLineParser& row) {
-  if (row.size() < kRequiredColumns) return false;
-  for (size_t i = 0; i < kRequiredColumns; ++i)
-    if (row.Field(i) != kColumns[i]) return false;
-  return true;
-}
 
 // A row survives the import when each of these holds, in this order.
 bool RowIsLawful(ArpRecord& r) {
@@ -183,7 +170,7 @@ bool ArpTable::ImportFromCSV(std::istream& in) {
   CSVLineParser row("");
   if (!row.ReadFromStream(in)) return false;
   TakeHostname(row, m_hostName);
-  if (!row.ReadFromStream(in) || !HeaderMatches(row)) return false;
+  if (!row.ReadFromStream(in) || !HeaderMatches(row, kColumns, kRequiredColumns)) return false;
 
   // Exact duplicates, byte for byte after the MAC address is normalised.
   std::unordered_set<std::string> seen;

@@ -31,12 +31,6 @@ constexpr size_t kAllColumns = 6;
 // Joins the two parts of a key of the strict compare.
 const char* const kKeySeparator = "__sep__";
 
-bool HeaderMatches(const CSVLineParser& row) {
-  if (row.size() < kRequiredColumns) return false;
-  for (size_t i = 0; i < kRequiredColumns; ++i)
-    if (row.Field(i) != kColumns[i]) return false;
-  return true;
-}
 
 // What operator== looks at, as one text.
 std::string EntryKey(const CDPTableEntry& e) {
@@ -125,7 +119,7 @@ bool CDPTable::ImportFromCSV(std::istream& in) {
   const size_t at = row.Field(1).find(kNameTag);
   if (at != std::string::npos) m_deviceName = row.Field(1).substr(at + std::char_traits<char>::length(kNameTag));
   const bool fileTranslated = row.size() > 2 && row.Field(2) == kTranslatedTrue;
-  if (!row.ReadFromStream(in) || !HeaderMatches(row)) return false;
+  if (!row.ReadFromStream(in) || !HeaderMatches(row, kColumns, kRequiredColumns)) return false;
 
   m_modified = false;
   m_translated = true;

@@ -50,6 +50,17 @@ void CommonTableCompareResult::PrintCompareResult() const {
   NETLOOM_LOG("netloom", LOG_DEBUG, text);
 }
 
+// The first remaining right line with the key of `line` (CompareTwoLine 1 or
+// 2), or end; `code` is that comparison's answer.
+Lines::iterator CommonTable::FirstKeyMatch(const std::vector<std::string>& line, Lines& rights,
+                                           const CommonTable& left, const CommonTable& right, int& code) {
+  for (auto r = rights.begin(); r != rights.end(); ++r) {
+    code = CompareTwoLine(line, *r, left, right);
+    if (code == 1 || code == 2) return r;
+  }
+  return rights.end();
+}
+
 bool CommonTable::IsSameBetweenTwoTableForSpecialCase(CommonTable& left, CommonTable& right) {
   if (left.GetCollumnCount() != right.GetCollumnCount()) return false;
   std::set<std::string> a, b;
@@ -102,15 +113,8 @@ void CommonTable::DiffInDetailBetweenTwoTable(CommonTable& left, CommonTable& ri
   if (left.GetRecordCount() == 0 && right.GetRecordCount() == 0) return;
   Lines lefts = AllLines(left), rights = AllLines(right);
   for (const auto& l : lefts) {
-    auto match = rights.end();
     int code = 0;
-    for (auto r = rights.begin(); r != rights.end(); ++r) {
-      code = CompareTwoLine(l, *r, left, right);
-      if (code == 1 || code == 2) {
-        match = r;
-        break;
-      }
-    }
+    auto match = FirstKeyMatch(l, rights, left, right, code);
     if (match != rights.end()) {
       out.push_back(MakeResult(LineNumber(l), LineNumber(*match),
                                code == 2 ? CommonTableCompareResult::m_iSame : CommonTableCompareResult::m_iDiff,
@@ -226,15 +230,8 @@ bool CommonTable::IsSameBetweenTwoTable(CommonTable& left, CommonTable& right) {
     return false;
   Lines lefts = AllLines(left), rights = AllLines(right);
   for (const auto& l : lefts) {
-    auto match = rights.end();
     int code = 0;
-    for (auto r = rights.begin(); r != rights.end(); ++r) {
-      code = CompareTwoLine(l, *r, left, right);
-      if (code == 1 || code == 2) {
-        match = r;
-        break;
-      }
-    }
+    auto match = FirstKeyMatch(l, rights, left, right, code);
     if (match == rights.end() || code == 1) return false;
     rights.erase(match);
   }

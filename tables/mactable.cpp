@@ -53,19 +53,7 @@ constexpr size_t kVlanNameColumn = 6;
 const char* const kFilterMacFile = "fix_FilterMac.def";
 const char* const kFilterPortFile = "fix_FilterPort.def";
 
-void TakeHostname(const CSVLineParser& row, std::string& hostname) {
-  if (row.size() < 2) return;
-  const std::string& field = row.Field(1);
-  const size_t at = field.find(kHostTag);
-  if (at != std::string::npos) hostname = field.substr(at + std::char_traits<char>::length(kHostTag));
-}
 
-bool HeaderMatches(const CSVLineParser& row) {
-  if (row.size() < kRequiredColumns) return false;
-  for (size_t i = 0; i < kRequiredColumns; ++i)
-    if (row.Field(i) != kColumns[i]) return false;
-  return true;
-}
 
 unsigned int ParseVlan(const std::string& text) {
   return AllDigits(text) ? static_cast<unsigned int>(Atoi(text)) : kNoVlan;
@@ -179,7 +167,7 @@ bool MacTable::ImportFromCSV(std::istream& in) {
   CSVLineParser row("");
   if (!row.ReadFromStream(in)) return false;
   TakeHostname(row, m_hostName);
-  if (!row.ReadFromStream(in) || !HeaderMatches(row)) return false;
+  if (!row.ReadFromStream(in) || !HeaderMatches(row, kColumns, kRequiredColumns)) return false;
   const bool hasVlanName = row.size() > kVlanNameColumn && row.Field(kVlanNameColumn) == kColumns[kVlanNameColumn];
 
   LoadFilter();

@@ -72,4 +72,19 @@ void AppendKeyPart(std::string& key, const std::string& part) {
   key += part;
 }
 
+void TakeHostname(const CSVLineParser& row, std::string& hostname) {
+  static const std::string tag = "hostname:";
+  if (row.size() < 2) return;
+  const std::string& field = row.Field(1);
+  const size_t at = field.find(tag);
+  if (at != std::string::npos) hostname = field.substr(at + tag.size());
+}
+
+bool HeaderMatches(const CSVLineParser& row, const char* const* names, size_t count) {
+  if (row.size() < count) return false;
+  for (size_t i = 0; i < count; ++i)
+    if (row.Field(i) != names[i]) return false;
+  return true;
+}
+
 }  // namespace netloom::detail::table

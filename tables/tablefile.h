@@ -9,6 +9,8 @@
 #include <unordered_map>
 #include <vector>
 
+#include "netloom/util/csvparser.h"
+
 namespace netloom::detail::table {
 
 // Whether the path can be reached at all (existence, not permission to read).
@@ -24,6 +26,12 @@ int Atoi(const std::string& text);
 bool AllDigits(const std::string& text);
 // A whole dotted-quad IPv4 address.
 bool IsValidIp(const std::string& text);
+
+// Host name from a table's first row: all after the first "hostname:" in
+// field 1, when there is one; otherwise `hostname` stays.
+void TakeHostname(const CSVLineParser& row, std::string& hostname);
+// The first `count` fields of a column row are exactly `names`.
+bool HeaderMatches(const CSVLineParser& row, const char* const* names, size_t count);
 
 // One line of the old text forms: up to LF, cut at its first CR.
 bool ReadTextLine(std::istream& in, std::string& line);

@@ -96,6 +96,10 @@ class NETLOOM_API CommonTable {
                              std::vector<int> keyPositions, std::set<std::string> keyNames,
                              std::set<std::string> ignoreNames);
   static void ParseValue(std::string& head, std::string& tail, const std::string& text);
+  static std::list<std::vector<std::string>>::iterator FirstKeyMatch(const std::vector<std::string>& line,
+                                                                     std::list<std::vector<std::string>>& rights,
+                                                                     const CommonTable& left, const CommonTable& right,
+                                                                     int& code);
 
   CSVParser m_cells;
   std::string m_fileName;
