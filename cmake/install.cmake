@@ -31,6 +31,9 @@ set(CPACK_DEBIAN_PACKAGE_MAINTAINER "Netloom developers")
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "libboost-dev (>= 1.74), python3-dev (>= 3.11)")
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+# The library finds its resources under the prefix it was built for; the
+# package installs there (configure with -DCMAKE_INSTALL_PREFIX=/usr for a system package).
+set(CPACK_PACKAGING_INSTALL_PREFIX ${CMAKE_INSTALL_PREFIX})
 include(CPack)
 
 # API reference, when doxygen is installed: cmake --build build --target apidoc
