@@ -1,8 +1,6 @@
 // Access records: the jump box's two ways of being built, the equality rules
-// of each record, what clear keeps, SNMP content equality and the key folder.
+// of each record, what clear keeps, and SNMP content equality.
 #include <gtest/gtest.h>
-
-#include <sys/stat.h>
 
 #include <string>
 #include <tuple>
@@ -82,19 +80,6 @@ TEST(TelnetProxy, ReadsEveryKeyAndInitResetsItsOwn) {
   EXPECT_EQ(q.ipAddr + "|" + q.userName + "|" + q.enablePassword, "10.0.0.1|u|root");
 }
 
-TEST(TelnetProxy, SameBoxMeansSameAddressAndPort) {
-  QLIX_TelnetProxy a, b;
-  a.ipAddr = b.ipAddr = "10.1.1.1";
-  a.port = b.port = 22;
-  a.userName = "alice", a.mode = 0;
-  b.userName = "bob", b.mode = 2;
-  EXPECT_TRUE(a == b);  // whoever logs in, however
-  b.port = 23;
-  EXPECT_TRUE(a != b);
-  b.port = 22, b.ipAddr = "10.1.1.2";
-  EXPECT_FALSE(a == b);
-}
-
 TEST(AccessRecords, ClearKeepsWhatItShould) {
   QLIX_TelnetInfo info{"id", 5, "alias", "user", "pw", 2, 1, "key"};
   info.clear();
@@ -113,29 +98,6 @@ TEST(AccessRecords, ClearKeepsWhatItShould) {
   QLIX_EnablePasswd en{"id", "alias", "user", "pw", 4};
   en.clear();
   EXPECT_EQ(en, QLIX_EnablePasswd{});
-}
-
-TEST(AccessRecords, EqualityComparesEveryField) {
-  const QLIX_TelnetInfo base{"id", 1, "alias", "user", "pw", 2, 1, "key"};
-  EXPECT_EQ(base, (QLIX_TelnetInfo{"id", 1, "alias", "user", "pw", 2, 1, "key"}));
-  EXPECT_NE(base, (QLIX_TelnetInfo{"id", 1, "alias", "user", "pw", 2, 1, "key2"}));
-  EXPECT_NE(base, (QLIX_TelnetInfo{"id", 1, "alias", "user", "pw", 3, 1, "key"}));  // refCount counts too
-
-  const QLIX_Snmpv3 v3{3, 1, 2, "u", "a", "e", "ctx"};
-  QLIX_Snmpv3 v3b = v3;
-  v3b.contextName = "other";
-  EXPECT_NE(v3, v3b);
-
-  QLIX_SnmpRoInfo ro{"id", "alias", "public", 161, 0, 3, v3};
-  QLIX_SnmpRoInfo rob = ro;
-  EXPECT_EQ(ro, rob);
-  rob.v3 = v3b;
-  EXPECT_NE(ro, rob);
-
-  const QLIX_EnablePasswd en{"id", "alias", "user", "pw", 4};
-  QLIX_EnablePasswd enb = en;
-  enb.refCount = 5;
-  EXPECT_NE(en, enb);
 }
 
 QLIX_SnmpRoInfo V3(int authMode, const char* user, int authPro, const char* authPw, int encPro, const char* encPw) {
@@ -185,23 +147,6 @@ TEST(SnmpRoInfo, ContentEqualityByVersionAndMode) {
   const QLIX_SnmpRoInfo mode0 = V3(0, "u", 1, "a", 1, "e");
   EXPECT_FALSE(mode0.IsContentEqual(mode0));
   EXPECT_FALSE(V3(4, "u", 1, "a", 1, "e").IsContentEqual(V3(4, "u", 1, "a", 1, "e")));
-}
-
-TEST(SSHPrivateKey, LocalKeyFileLiesInTheTempFolder) {
-  const std::string folder = TWFileSystem::GetTempFolder() + "SSHKEY/";
-  QLIX_SSHPrivateKey key;
-  EXPECT_EQ(key.GetLocalKeyFilePath(), folder);  // empty file name: the folder itself
-  struct stat st {};
-  ASSERT_EQ(::stat(folder.c_str(), &st), 0);
-  EXPECT_TRUE(S_ISDIR(st.st_mode));
-
-  key.localKeyFile = "0a1b2c.key";
-  EXPECT_EQ(key.GetLocalKeyFilePath(), folder + "0a1b2c.key");
-  EXPECT_NE(::stat((folder + "0a1b2c.key").c_str(), &st), 0);  // the key itself isn't written
-  // Created again when it has gone away in between.
-  ASSERT_EQ(::rmdir(folder.c_str()), 0);
-  key.GetLocalKeyFilePath();
-  EXPECT_EQ(::stat(folder.c_str(), &st), 0);
 }
 
 }  // namespace

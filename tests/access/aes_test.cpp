@@ -126,24 +126,6 @@ TEST(AesKey, KeyFileIsCreatedPrivateAndReused) {
     InFreshProcess(conf, [&] { return TWAes::Decrypt(netloom_test::ReadFile(sealedFile)) == "kept across runs"; });
 }
 
-TEST(AesKey, EnvironmentKeyWinsAndDiffersFromOthers) {
-    const std::string conf = SharedDir("NETLOOM_AES_TEST_DIR2");
-    const std::string sealedFile = conf + "sealed.txt";
-    const std::string keyA = Encode64(std::string(32, 'A'));
-    const std::string keyB = Encode64(std::string(32, 'B'));
-    ::setenv("NETLOOM_AES_KEY", keyA.c_str(), 1);
-    InFreshProcess(conf, [&] {
-        netloom_test::WriteFile(sealedFile, TWAes::Encrypt("site A"));
-        return true;
-    });
-    // No key file is made when the environment supplies the key.
-    EXPECT_FALSE(std::filesystem::exists(conf + TWAes::KeyFileName()));
-    InFreshProcess(conf, [&] { return TWAes::Decrypt(netloom_test::ReadFile(sealedFile)) == "site A"; });
-    ::setenv("NETLOOM_AES_KEY", keyB.c_str(), 1);
-    InFreshProcess(conf, [&] { return TWAes::Decrypt(netloom_test::ReadFile(sealedFile)).empty(); });
-    ::unsetenv("NETLOOM_AES_KEY");
-}
-
 TEST(AesKey, DamagedKeyFileIsNeverOverwritten) {
     const std::string conf = SharedDir("NETLOOM_AES_TEST_DIR3");
     netloom_test::WriteFile(conf + TWAes::KeyFileName(), "not a key\n");

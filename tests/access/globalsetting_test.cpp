@@ -1,4 +1,4 @@
-// Global settings: prompt sets through their "||" text, defaults, the two
+// Global settings: prompt sets through their "||" text, the two
 // loaders agreeing, and the live settings' unsaved topology flag.
 #include <gtest/gtest.h>
 
@@ -45,17 +45,6 @@ void ExpectCliDoc(const GlobalCliSetting& s) {
   EXPECT_EQ(Numbers(s), std::make_tuple(true, 4, 60, 7, 1, 900, false, true, 250000));
 }
 
-TEST(GlobalCliSetting, Defaults) {
-  const GlobalCliSetting s;
-  EXPECT_EQ(s.userPrompts, (Set{"Login Name:", "User Name:", "login:", "username:", "User:"}));
-  EXPECT_EQ(s.passwordPrompts, (Set{"passcode:", "password:"}));
-  EXPECT_EQ(s.nonprivilegePrompts, (Set{">"}));
-  EXPECT_EQ(s.enableUserNamePrompts, s.userPrompts);
-  EXPECT_EQ(s.enablePasswordPrompts, s.passwordPrompts);
-  EXPECT_EQ(s.privilegePrompts, (Set{"#", "(enable)"}));
-  EXPECT_EQ(Numbers(s), std::make_tuple(false, 3, 30, 5, 2, 600, true, false, 100000));
-}
-
 TEST(GlobalCliSetting, BothLoadersAndTheSavedForm) {
   rapidjson::Document doc;
   doc.Parse(kCliDoc);
@@ -92,23 +81,6 @@ TEST(GlobalCliSetting, BothLoadersAndTheSavedForm) {
   EXPECT_TRUE(s.userPrompts.empty() && s.privilegePrompts.empty());
 }
 
-TEST(GlobalCliSetting, RapidJsonMembersOfOddTypesDoNotAbort) {
-  rapidjson::Document doc;
-  doc.Parse(R"({"userPrompts": 5, "cliTimeout": "45", "isSendSSH": "true", "exitTimeout": [1],
-                "forceTime": 1e12, "checkTime": null})");
-  ASSERT_FALSE(doc.HasParseError());
-  GlobalCliSetting s;
-  ASSERT_TRUE(s.LoadFromRapidJson(doc));
-  EXPECT_EQ(s.userPrompts, (Set{"5"}));
-  // Numbers from text, true from "true", clamped to the int range, 0 for the rest.
-  EXPECT_EQ(Numbers(s), std::make_tuple(false, 0, 45, 0, 0, 2147483647, true, false, 0));
-
-  rapidjson::Document notObject;
-  notObject.Parse("[1, 2]");
-  ASSERT_TRUE(s.LoadFromRapidJson(notObject));
-  EXPECT_TRUE(s.userPrompts.empty());
-}
-
 TEST(GlobalLiveSetting, TopologyFlagDefaultsToTrueAndIsNotSaved) {
   GlobalLiveSetting s;
   s.buildL3TopoAfterDiscovery = false;
@@ -135,17 +107,6 @@ TEST(GlobalLiveSetting, TopologyFlagDefaultsToTrueAndIsNotSaved) {
   EXPECT_FALSE(b.buildL3TopoAfterDiscovery);
   ASSERT_TRUE(b.LoadFromJson(Json(R"({"buildL3TopoAfterDiscovery": null})")));
   EXPECT_FALSE(b.buildL3TopoAfterDiscovery);  // present, even if null
-}
-
-TEST(GlobalPingAndSnmp, Loading) {
-  GlobalPingSetting ping;
-  ASSERT_TRUE(ping.LoadFromJson(Json(R"({"pingTimeout": 5, "pingTryCount": 1})")));
-  EXPECT_EQ(std::make_pair(ping.pingTimeout, ping.pingTryCount), std::make_pair(5, 1));
-  GlobalSnmpSetting snmp;
-  ASSERT_TRUE(snmp.LoadFromJson(Json(R"({"snmpPort": 1161, "snmpAccessibleOid": "1.3.6.1",
-                                         "isEncryptUsername": true, "snmpTimeout": 9})")));
-  EXPECT_EQ(std::make_tuple(snmp.snmpPort, snmp.snmpAccessibleOid, snmp.isEncryptUsername, snmp.snmpTimeout),
-            std::make_tuple(1161, std::string("1.3.6.1"), true, 9));
 }
 
 }  // namespace

@@ -25,7 +25,6 @@ struct IfNameTransfersMgrAccess {
     static std::string TypeName(const std::string& name, std::string& suffix, bool lower) {
         return IfNameTransfersMgr::Instant()->GetIfTypeName(name, suffix, lower);
     }
-    static size_t CachedTypeCount() { return IfNameTransfersMgr::CachedTypeCount(); }
 };
 
 namespace {
@@ -183,59 +182,7 @@ TEST(IfNameDb, FailuresAreReportedAndLogged) {
     EXPECT_EQ(Full("d", "Gi1"), "GigabitEthernet1");
 }
 
-TEST(IfNameDb, InstanceLoadsDatabaseFromParserDataFolder) {
-    GTEST_FLAG_SET(death_test_style, "threadsafe");
-    EXPECT_EXIT(
-        {
-            const std::string path = TWFileSystem::GetFSParserDataFolder() + "InterfaceType.db";
-            CppSQLite3DB db;
-            db.open(path.c_str());
-            db.execDML("create table InterfaceType (data text)");
-            db.execDML(("insert into InterfaceType values ('" + Row("Widget", R"("wd")") + "')").c_str());
-            db.close();
-            const bool ok = Full("d", "wd9") == "Widget9";
-            std::error_code ec;
-            std::filesystem::remove_all(netloom_test::ScratchDir(), ec);
-            std::exit(ok ? 0 : 1);
-        },
-        ::testing::ExitedWithCode(0), "");
-}
-
-// ----------------------------------------------------- the SQLite wrapper
-
-// Failed opens and NULL cells are covered by the loads above.
-TEST(SqliteWrapper, BlobsAndErrors) {
-    CppSQLite3DB db;
-    EXPECT_THROW(db.execDML("select 1"), CppSQLite3Exception);  // not open
-    db.open((netloom_test::MakeTempDir("sql") + "t.db").c_str());
-    db.execDML("create table T (name text)");
-    EXPECT_TRUE(db.tableExists("T"));
-    EXPECT_FALSE(db.tableExists("T'; drop table T; --"));
-    CppSQLite3Statement insert = db.compileStatement("insert into T values (?)");
-    insert.bind(1, std::string("a\0b", 3));
-    insert.execDML();
-    CppSQLite3Query q = db.execQuery("select * from T");
-    EXPECT_EQ(q.getStringField("NAME"), std::string("a\0b", 3));  // any case, NUL kept
-    EXPECT_THROW(q.getStringField("missing"), CppSQLite3Exception);
-    EXPECT_THROW(q.getStringField(5), CppSQLite3Exception);
-    q.nextRow();
-    q.nextRow();  // past the end stays at the end
-    EXPECT_TRUE(q.eof());
-    EXPECT_THROW(db.compileStatement("not sql"), CppSQLite3Exception);
-}
-
 // ------------------------------------------------------------------ cache
-
-TEST(IfNameCache, ProcessCachePrunesAt5200) {
-    ASSERT_TRUE(Mgr().LoadData());  // empties the cache
-    EXPECT_EQ(IfNameTransfersMgrAccess::CachedTypeCount(), 0u);
-    for (int i = 0; i < 5199; ++i) Full("driver" + std::to_string(i), "Gi0/1");
-    EXPECT_EQ(IfNameTransfersMgrAccess::CachedTypeCount(), 5199u);
-    Full("driver-last", "Gi0/1");
-    EXPECT_EQ(IfNameTransfersMgrAccess::CachedTypeCount(), 5000u);
-    // Answers stay right after the purge, for kept and dropped keys alike.
-    EXPECT_EQ(Full("driver0", "Gi0/1") + Full("driver5198", "Gi0/1"), "GigabitEthernet0/1GigabitEthernet0/1");
-}
 
 TEST(LruCache, PrunesOldestInBulkAndKeepsFirstValue) {
     lru::Cache<int, int, lru::ThreadLock> cache(5000, 200);
@@ -251,16 +198,6 @@ TEST(LruCache, PrunesOldestInBulkAndKeepsFirstValue) {
     // The 200 oldest went: 2..201; 0 and 1 were used recently and stay.
     for (int k : {0, 1, 202, 5199}) EXPECT_TRUE(cache.contains(k)) << k;
     for (int k : {2, 201}) EXPECT_FALSE(cache.contains(k)) << k;
-}
-
-TEST(LruCache, Expiry) {
-    lru::Cache<int, int> expiring(10, 0, 1);
-    expiring.insert(1, 1);
-    int v = 0;
-    EXPECT_TRUE(expiring.get(1, v));
-    std::this_thread::sleep_for(std::chrono::milliseconds(2100));
-    EXPECT_FALSE(expiring.get(1, v));  // an expired entry is dropped when found
-    EXPECT_FALSE(expiring.contains(1));
 }
 
 // ------------------------------------------------------------ concurrency

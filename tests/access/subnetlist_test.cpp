@@ -44,11 +44,6 @@ TEST(SubnetList, EntriesAreKeyedByAddressAndMask) {
   list.AddSubnetList(&other);
   list.AddSubnetList(nullptr);
   EXPECT_EQ(list.GetCount(), 2);
-
-  SubnetListData copy = list;
-  EXPECT_TRUE(copy == list);
-  copy.SetDescription("changed");
-  EXPECT_FALSE(copy == list);
 }
 
 TEST(SubnetList, FilterTypes) {
@@ -284,18 +279,6 @@ TEST(DeviceListFile, DamagedFilesFail) {
     DeviceListData any;
     any.LoadFromString(junk, TWGuid2());
   }
-}
-
-TEST(DeviceListFile, NamesThatDontFitTheBufferAreNotSaved) {
-  DeviceListData list(std::string(1024, 'x').c_str(), "");
-  std::string bytes = "untouched";
-  EXPECT_FALSE(list.SaveToString(bytes, TWGuid2()));
-  EXPECT_EQ(bytes, "untouched");
-  list.SetName(std::string(1023, 'x'));
-  EXPECT_TRUE(list.SaveToString(bytes, TWGuid2()));
-  DeviceListData back;
-  ASSERT_TRUE(back.LoadFromString(bytes, TWGuid2()));
-  EXPECT_EQ(back.GetName(), std::string(1023, 'x'));
 }
 
 }  // namespace

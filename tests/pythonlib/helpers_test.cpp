@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <ctime>
-#include <thread>
 
 #include "netloom/lockmgr.h"
 #include "pythonlib/pyharness.h"
@@ -180,23 +179,6 @@ TEST_F(Helpers, TimesRoundTripInLocalTime) {
   Py_DECREF(module);
 }
 
-TEST_F(Helpers, CreatesDeviceFromFirstModuleThatHasOne) {
-  PyThreadStateLock lock(0, __FILE__, __LINE__);
-  EXPECT_EQ(PythonHelper::PyObject_Create("ignored"), nullptr);
-  EXPECT_FALSE(PyErr_Occurred());
-  PyObject* module = MakeModule("class CDevice:\n    kind = 'probe'\n");
-  ASSERT_NE(module, nullptr);
-  PyObject* device = PythonHelper::PyObject_Create("");
-  ASSERT_NE(device, nullptr);
-  PyObject* kind = PyObject_GetAttrString(device, "kind");
-  EXPECT_STREQ(PythonHelper::PyUnicode_AsString(kind), "probe");
-  EXPECT_EQ(PythonHelper::PyUnicode_AsString(nullptr), nullptr);
-  Py_DECREF(kind);
-  Py_DECREF(device);
-  PyDict_DelItemString(PyImport_GetModuleDict(), "probe");
-  Py_DECREF(module);
-}
-
 TEST_F(Helpers, LockScopesAreTracedByTheirId) {
   CLockMgr::Instance()->SetRun(true);
   void* key = reinterpret_cast<void*>(static_cast<std::intptr_t>(4321));
@@ -219,33 +201,6 @@ TEST_F(Helpers, LockScopesAreTracedByTheirId) {
   CLockMgr::Instance()->SetRun(false);
   PyThreadStateLock after(0, __FILE__, __LINE__);
   EXPECT_FALSE(PyErr_Occurred());
-}
-
-TEST_F(Helpers, SavedThreadLetsOthersIn) {
-  PyThreadStateLock lock(0, __FILE__, __LINE__);
-  PyThreadState* mine = PyThreadState_Get();
-  std::string seen;
-  {
-    CSavePythonThread released;
-    std::thread other([&] { seen = pytest::Eval("'in'"); });  // would wait for ever otherwise
-    other.join();
-  }
-  EXPECT_EQ(seen, "in");
-  EXPECT_EQ(PyThreadState_Get(), mine);
-}
-
-TEST(QuotedNames, IsInStringIsTrueOutsideQuotes) {
-  std::string text = "a 'b' c";
-  EXPECT_TRUE(PythonHelper::IsInString(text, 1));
-  EXPECT_FALSE(PythonHelper::IsInString(text, 3));
-  EXPECT_TRUE(PythonHelper::IsInString(text, 6));
-  EXPECT_FALSE(PythonHelper::IsInString(text, 7));  // past the end
-
-  std::string mixed = "x = \"it' y";  // a quote of one kind closes the other
-  EXPECT_TRUE(PythonHelper::IsInString(mixed, 9));
-  std::string escaped = "'a\\'b' c";
-  EXPECT_FALSE(PythonHelper::IsInString(escaped, 4));  // the escaped quote does not close
-  EXPECT_TRUE(PythonHelper::IsInString(escaped, 7));
 }
 
 TEST(QuotedNames, ReplaceNameChangesWholeWordsInsideQuotes) {

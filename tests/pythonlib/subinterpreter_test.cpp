@@ -10,7 +10,6 @@
 #include <thread>
 
 #include "common/testenv.h"
-#include "netloom/util/logger.h"
 #include "netloom/util/twfilesystem.h"
 #include "pythonlib/pyharness.h"
 
@@ -22,58 +21,6 @@ class SubInterpreters : public ::testing::Test {
   void TearDown() override { pythonlib_destroy(); }
   std::string m_record;
 };
-
-struct WorkerView {
-  PyThreadState* fromPool = nullptr;
-  PyThreadState* current = nullptr;
-  int64_t interpreter = -1;
-  std::string initCalls;
-  std::string pyinitId;
-};
-
-WorkerView LookAround(CTWP3PythonTaskPool& pool) {
-  WorkerView view;
-  view.fromPool = pool.GetCurrentTISState();
-  {
-    PyThreadStateLock lock(0, __FILE__, __LINE__);
-    view.current = PyThreadState_Get();
-    view.interpreter = PyInterpreterState_GetID(PyThreadState_GetInterpreter(view.current));
-  }
-  view.initCalls = pytest::Eval("__import__('tarnwick.sysext.pyinit').sysext.pyinit.calls");
-  view.pyinitId = pytest::Eval("id(sys.modules['tarnwick.sysext.pyinit'])");
-  return view;
-}
-
-TEST_F(SubInterpreters, EachWorkerHasItsOwnInterpreter) {
-  ASSERT_TRUE(pythonlib_init_ex(nullptr, 2, 16));
-  CTWP3PythonTaskPool* pool = GetSubInterpreterPool();
-  ASSERT_NE(pool, nullptr);
-  EXPECT_EQ(pool->GetCurrentTISState(), nullptr);  // not a worker
-
-  WorkerView views[2];
-  pytest::RunOnDistinctWorkers(*pool, 2, [&](int i) { views[i] = LookAround(*pool); });
-  const WorkerView host = [] {
-    WorkerView v;
-    PyThreadStateLock lock(0, __FILE__, __LINE__);
-    v.interpreter = PyInterpreterState_GetID(PyThreadState_GetInterpreter(PyThreadState_Get()));
-    return v;
-  }();
-  EXPECT_EQ(host.interpreter, 0);
-  const std::string hostPyinit = pytest::Eval("id(sys.modules['tarnwick.sysext.pyinit'])");
-
-  const std::string expectedCalls =
-      "[('pythonlib_init', '" + TWFileSystem::GetLogFolder() + "', 0)]";
-  for (const WorkerView& v : views) {
-    ASSERT_NE(v.fromPool, nullptr);
-    EXPECT_EQ(v.fromPool, v.current);
-    EXPECT_NE(v.interpreter, 0);
-    EXPECT_EQ(v.initCalls, expectedCalls);
-    EXPECT_NE(v.pyinitId, hostPyinit);
-  }
-  EXPECT_NE(views[0].interpreter, views[1].interpreter);
-  EXPECT_NE(views[0].fromPool, views[1].fromPool);
-  EXPECT_NE(views[0].pyinitId, views[1].pyinitId);
-}
 
 TEST_F(SubInterpreters, ModulesAndPathsStayInTheirInterpreter) {
   ASSERT_TRUE(pythonlib_init_ex(nullptr, 2, 2));
@@ -114,6 +61,7 @@ TEST_F(SubInterpreters, ModulesAndPathsStayInTheirInterpreter) {
 TEST_F(SubInterpreters, GrowsWithInterpretersForNewWorkers) {
   ASSERT_TRUE(pythonlib_init_ex(nullptr, 1, 3));
   CTWP3PythonTaskPool* pool = GetSubInterpreterPool();
+  EXPECT_EQ(pool->GetCurrentTISState(), nullptr);  // not a worker
   std::set<int64_t> interpreters;
   std::mutex m;
   pytest::RunOnDistinctWorkers(*pool, 3, [&](int) {
@@ -283,41 +231,5 @@ TEST_F(SubInterpreters, WorkersBeginWhileStarterRunsPython) {
   }
 }
 
-
-TEST_F(SubInterpreters, WorkersLogTheirInterpreters) {
-  struct Record {
-    ELogLevel level;
-    std::string category, function, message;
-  };
-  std::mutex m;
-  std::vector<Record> records;
-  ILogger::GetInstance()->SetObserver(
-      [&](ELogLevel level, const std::string& category, const std::string& function, const std::string& message) {
-        std::lock_guard<std::mutex> lock(m);
-        if (category == "TWP3Python") records.push_back({level, category, function, message});
-      });
-  ASSERT_TRUE(pythonlib_init_ex(nullptr, 3, 3));
-  pythonlib_destroy();
-  ILogger::GetInstance()->SetObserver(nullptr);
-
-  int begins = 0, ends = 0;
-  for (const Record& r : records) {
-    if (r.message == "Py_NewInterpreter Begin\n" || r.message == "Py_NewInterpreter End\n") {
-      EXPECT_EQ(r.function, "CTWP3PythonTaskPool::OnThreadBegin");
-      EXPECT_EQ(r.level, LOG_TRACE);
-      begins += r.message == "Py_NewInterpreter Begin\n";
-    } else {
-      EXPECT_EQ(r.message, "Py_EndInterpreter End\n");
-      EXPECT_EQ(r.function, "CTWP3PythonTaskPool::OnThreadEnd");
-      EXPECT_EQ(r.level, LOG_DEBUG);
-      ++ends;
-    }
-  }
-  EXPECT_EQ(begins, 3);
-  EXPECT_EQ(ends, 3);
-  ASSERT_GE(records.size(), 2u);
-  EXPECT_EQ(records[0].message, "Py_NewInterpreter Begin\n");
-  EXPECT_EQ(records[1].message, "Py_NewInterpreter End\n");  // workers begin one at a time
-}
 
 }  // namespace

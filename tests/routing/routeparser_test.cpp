@@ -17,14 +17,6 @@ namespace {
 
 constexpr unsigned kUnknown32 = 0xFFFFFFFFu;
 
-// Opens the protected parsing steps to the tests.
-class ParsingTable : public RoutingTable {
- public:
-  using RoutingTable::ParseDefaultRTEntry;
-  using RoutingTable::ParseGateway;
-  using RoutingTable::ParseRTBEntry;
-};
-
 class PrefixHelper : public IInterfaceTypeHelper {
  public:
   std::string GetFullInterfaceName(std::string ifName) override {
@@ -239,69 +231,7 @@ TEST(RouteParser, AgesAndAddressesAgreeWithTheGeneralReaders) {
   }
 }
 
-// ---- single steps ----
-
-TEST(RouteParserSteps, EachVariantFillsItsGroups) {
-  // Groups shown as "ok dest|mask|distance|metric|gateway|outIf|time".
-  const std::pair<int, const char*> lines[] = {
-      {0, "10.0.0.0/8 [90/5] via 10.1.1.1, 00:00:10, Vlan1"},
-      {0, "10.0.0.0 [90/5] via 10.1.1.1"},
-      {0, "10.0.0.0 255.255.0.0 [90/5] via 10.1.1.1, 1d02h, Vlan1"},
-      {0, "10.0.0.0 0xFFFFFFF0 [90/5] via 10.1.1.1, 1d02h, Vlan1"},
-      {1, "[110/2] via 10.1.1.2, 00:00:01, Vlan2"},
-      {2, "10.0.0.0/24 is subnetted, 3 subnets"},
-      {2, "10.0.0.0 255.255.255.128 is variably subnetted, 3 subnets"},
-      {3, "10.0.0.0/24 is directly connected, Vlan1"},
-      {3, "10.0.0.0/24 is directly connected, 00:01:02, Vlan1"},
-      // A time with nothing behind the comma leaves no interface: no set counts.
-      {3, "10.0.0.0/24 is directly connected, 00:01:02,"},
-      {4, "172.16.0.0/12 is a summary, 1d02h, Null0"},
-      {5, "10.0.0.0/16 [1/0] via 10.1.1.1, 00:00:05"},
-      {5, "10.0.0.0/16 [1/0] via 10.1.1.1, Null0"},
-      {6, "10.0.0.0/8 [90/5] via 10.1.1.1, 00:00:10, Vlan1"},
-      {-1, "10.0.0.0/8 [90/5] via 10.1.1.1, 00:00:10, Vlan1"},
-  };
-  const Rows want = {
-      "1 10.0.0.0|8|90|5|10.1.1.1|Vlan1|00:00:10", "1 10.0.0.0||90|5|10.1.1.1||-1",
-      "1 10.0.0.0|16|90|5|10.1.1.1|Vlan1|1d02h",   "1 10.0.0.0|28|90|5|10.1.1.1|Vlan1|1d02h",
-      "1 ||110|2|10.1.1.2|Vlan2|00:00:01",          "1 10.0.0.0|24|-1|-1|||-1",
-      "1 10.0.0.0|25|-1|-1|||-1",                   "1 10.0.0.0|24|-1|-1||Vlan1|-1",
-      "1 10.0.0.0|24|-1|-1||Vlan1|00:01:02",        "0 ||-1|-1|||-1",
-      "1 172.16.0.0|12|-1|-1||Null0|1d02h",         "1 10.0.0.0|16|1|0|10.1.1.1||00:00:05",
-      "1 10.0.0.0|16|1|0|10.1.1.1|Null0|-1",        "0 ||-1|-1|||-1",
-      "0 ||-1|-1|||-1"};
-  ParsingTable table;
-  Rows got;
-  for (auto [variant, line] : lines) {
-    std::string dest = "x", mask = "x", distance = "x", metric = "x", gateway = "x", outIf = "x", time = "x";
-    const bool ok = table.ParseRTBEntry(variant, line, dest, mask, distance, metric, gateway, outIf, time);
-    got.push_back(std::string(ok ? "1 " : "0 ") + dest + "|" + mask + "|" + distance + "|" + metric + "|" + gateway +
-                  "|" + outIf + "|" + time);
-  }
-  EXPECT_EQ(got, want);
-
-  std::string gw = "x", net = "x";
-  EXPECT_TRUE(table.ParseGateway("Gateway of last resort is 10.0.0.1 to network 0.0.0.0", gw, net));
-  EXPECT_EQ(gw + " " + net, "10.0.0.1 0.0.0.0");
-  EXPECT_FALSE(table.ParseGateway("Gateway of last resort is not set", gw, net));
-  EXPECT_EQ(gw + net, "");
-  EXPECT_TRUE(table.ParseDefaultRTEntry("default gateway is 192.168.0.254", gw));
-  EXPECT_EQ(gw, "192.168.0.254");
-  EXPECT_FALSE(table.ParseDefaultRTEntry("Default Gateway is 192.168.0.254", gw));  // the caller lower-cases
-}
-
-// ---- streams and files ----
-
-TEST(RouteParserStream, ReadsTheWholeStream) {
-  std::istringstream in(WithGateway("S   10.2.0.0/16 [1/0] via 10.1.1.1\n"));
-  RoutingTable table;
-  EXPECT_TRUE(table.ParseStream(in, nullptr, true));
-  EXPECT_EQ(table.GetSize(), 1u);
-
-  std::istringstream failed(WithGateway("S   10.2.0.0/16 [1/0] via 10.1.1.1\n"));
-  failed.setstate(std::ios::failbit);
-  EXPECT_FALSE(table.ParseStream(failed, nullptr, true));
-}
+// ---- files ----
 
 std::string BigListing(int routes) {
   std::string text = WithGateway("      10.0.0.0/8 is variably subnetted, many subnets, 2 masks\n");
@@ -322,9 +252,14 @@ TEST(RouteParserFile, ConvertsListingInPlaceIntoRouteFile) {
   const std::string text = BigListing(2600);  // several batches
   const std::string path = netloom_test::WriteFile(dir + "core.txt", text);
 
-  RoutingTable inMemory("core");
+  RoutingTable inMemory("core"), streamed;
   ASSERT_TRUE(inMemory.ParseCmdString(text.c_str(), nullptr, false));
   ASSERT_EQ(inMemory.GetSize(), 2600u);
+  std::istringstream in(text), failed(text);
+  EXPECT_TRUE(streamed.ParseStream(in, nullptr, true));
+  EXPECT_EQ(streamed.GetSize(), 2600u);
+  failed.setstate(std::ios::failbit);
+  EXPECT_FALSE(streamed.ParseStream(failed, nullptr, true));
 
   RoutingTable converting("core");
   ASSERT_TRUE(converting.ParseCmdString(("twfile://" + path).c_str(), nullptr, true));

@@ -93,9 +93,6 @@ TEST(RouteLookup, ChangesThroughTheMapReferenceAreSeen) {
     map[IpLocation(Ip("10.1.0.0"), 0xFFFF0000u)] = routes;
     EXPECT_TRUE(t.LookUp(IpAddress(Ip("10.2.0.1")), true).empty());
     EXPECT_EQ(t.LookUp(IpAddress(Ip("10.1.0.1")), true).size(), 1u);
-    // A second key added through a fresh reference after lookups ran.
-    t.getEntryNetworkMap()[IpLocation(Ip("20.0.0.0"), 0xFF000000u)] = routes;
-    EXPECT_EQ(t.LookUp(IpAddress(Ip("20.9.9.9")), true).size(), 1u);
     t.getEntryNetworkMap().clear();
     t.GenerateNetworkMap();
     EXPECT_EQ(t.LookUp(IpAddress(Ip("10.2.0.1")), true).size(), 1u);
@@ -183,8 +180,6 @@ TEST(DefaultRoute, LastCandidateAlwaysWins) {
     b.Metric = 0;
     b.DestIp = IpAddress(1u);
     EXPECT_EQ(a.compareDefRoute(&b), -1);
-    b.Metric = 3;
-    EXPECT_EQ(a.compareDefRoute(&b), 1);
 }
 
 TEST(RecursiveLookup, FollowsNextHopsToARouteWithAnInterface) {
@@ -237,21 +232,17 @@ TEST(RecursiveLookup, LoopsAndLongChainsGiveNull) {
     EXPECT_EQ(Prefix(twelve->IpRTLookUpFirst(IpAddress(Ip("1.0.0.9")), true)), "13.0.0.0/8");
 }
 
-TEST(TableChanges, IndexesAndDeletes) {
+TEST(TableChanges, IndexesDeletesAndReplace) {
     RoutingTable t("r1");
     auto r = Route("10.0.0.0", 8, "1.1.1.1", "Gi0");
     r.Index = 77;  // ignored by AddRoute
     t.AddRoute(&r);
-    EXPECT_NE(t.GetRTEntryByIndex(1), nullptr);
     auto s = Route("10.0.0.0", 8, "2.2.2.2", "Gi1");
-    s.Index = 40;
-    t.AppendRoute(&s);
-    s.Index = 0;
-    t.AppendRoute(&s);
-    EXPECT_NE(t.GetRTEntryByIndex(41), nullptr);
-    s.Index = 40;
-    s.OutIf = "other";
-    t.AppendRoute(&s);  // Index taken: the first stays
+    for (unsigned int index : {40u, 0u, 40u}) {  // 0 takes the next free, a taken Index is refused
+        s.Index = index;
+        t.AppendRoute(&s);
+        s.OutIf = "other";
+    }
     EXPECT_EQ(t.GetRTEntryByIndex(40)->OutIf, "Gi1");
     IpLocation key(Ip("10.0.0.0"), 0xFF000000u);
     EXPECT_EQ(Indexes(t.GetPossibleEntry(key)), (std::vector<unsigned int>{1, 40, 41}));
@@ -262,17 +253,14 @@ TEST(TableChanges, IndexesAndDeletes) {
     EXPECT_EQ(t.GetMaxIndex(), 42u);
 
     // Delete by next hop and interface; a miss inside the vector is still true.
-    auto probe = Route("10.0.0.0", 8, "2.2.2.2", "Gi1");
+    auto probe = Route("10.0.0.0", 8, "2.2.2.2", "Gi1"), nothing = Route("10.0.0.0", 8, "9.9.9.9", "Gi1"),
+         absent = Route("12.0.0.0", 8);
     EXPECT_TRUE(t.DeleteRoute(&probe));
     EXPECT_EQ(t.GetRTEntryByIndex(40), nullptr);
-    EXPECT_NE(t.GetRTEntryByIndex(41), nullptr);
-    auto nothing = Route("10.0.0.0", 8, "9.9.9.9", "Gi1");
     EXPECT_TRUE(t.DeleteRoute(&nothing));
-    EXPECT_EQ(t.GetSize(), 3u);
-    auto absent = Route("12.0.0.0", 8);
     EXPECT_FALSE(t.DeleteRoute(&absent));
-    // Deleting the stored entry itself through its own pointer.
-    EXPECT_TRUE(t.DeleteRoute(t.GetRTEntryByIndex(41)));
+    EXPECT_EQ(t.GetSize(), 3u);
+    EXPECT_TRUE(t.DeleteRoute(t.GetRTEntryByIndex(41)));  // through its own pointer
     EXPECT_TRUE(t.DeleteRoute(t.GetRTEntryByIndex(1)));
     EXPECT_EQ(t.getEntryNetworkMap().count(key), 0u);
 
@@ -280,7 +268,6 @@ TEST(TableChanges, IndexesAndDeletes) {
     auto d = Route("0.0.0.0", 0, "1.1.1.1");
     d.CandidateDefault = true;
     t.AddRoute(&d);
-    ASSERT_NE(t.GetDefRoute(), nullptr);
     EXPECT_TRUE(t.DeleteRoute(&d));
     EXPECT_EQ(t.GetDefRoute(), nullptr);
     EXPECT_TRUE(t.LookUp(IpAddress(Ip("1.2.3.4")), true).empty());
@@ -294,29 +281,32 @@ TEST(TableChanges, IndexesAndDeletes) {
         route.SetCostInfo(cost);
         return route;
     };
-    for (int id : {1, 2}) {
-        auto route = bgp(id);
-        b.AddRoute(&route);
-    }
-    auto second = bgp(2);
+    auto first = bgp(1), second = bgp(2);
+    Add(b, {first, second});
     EXPECT_TRUE(b.DeleteRoute(&second));
     EXPECT_NE(b.GetRTEntryByIndex(1), nullptr);
     EXPECT_EQ(b.GetRTEntryByIndex(2), nullptr);
+
+    // SetRTEntryList replaces everything with fresh indexes.
+    auto x = Route("1.0.0.0", 8), y = Route("2.0.0.0", 8);
+    x.Index = 50;
+    std::vector<RoutingTableEntry*> list{&x, &y};
+    b.SetRTEntryList(list);
+    b.SetRTEntryList(list);
+    EXPECT_EQ(b.GetSize(), 2u);
+    EXPECT_EQ(b.GetMaxIndex(), 2u);
 }
 
-TEST(TableChanges, ModifyCleanUpAndReplace) {
+TEST(TableChanges, ModifyKeepsKeysAndCleanUpKeepsTheName) {
     RoutingTable t("r1");
     t.SetDescription("desc");
     Add(t, {Route("10.0.0.0", 8, "1.1.1.1")});
-    RoutingTableEntry change = Route("10.0.0.0", 8, "7.7.7.7");
-    change.Index = 9;
-    EXPECT_FALSE(t.ModifyRTEntry(&change));
-    EXPECT_FALSE(t.ModifyRTEntry(nullptr));
-    // Keys are not updated by a modify; GenerateNetworkMap rebuilds them.
     RoutingTableEntry moved = Route("20.0.0.0", 8, "7.7.7.7");
+    moved.Index = 9;
+    EXPECT_FALSE(t.ModifyRTEntry(&moved));
+    EXPECT_FALSE(t.ModifyRTEntry(nullptr));
     moved.Index = 1;
     EXPECT_TRUE(t.ModifyRTEntry(&moved));
-    EXPECT_EQ(t.GetRTEntryByIndex(1)->NextHop.textForm(), "7.7.7.7");
     EXPECT_TRUE(t.LookUp(IpAddress(Ip("20.0.0.1")), true).empty());
     t.GenerateNetworkMap();
     EXPECT_EQ(t.LookUp(IpAddress(Ip("20.0.0.1")), true).size(), 1u);
@@ -326,20 +316,9 @@ TEST(TableChanges, ModifyCleanUpAndReplace) {
     EXPECT_TRUE(t.getEntryNetworkMap().empty());
     EXPECT_EQ(t.GetDescription(), "");
     EXPECT_EQ(t.GetDeviceName(), "r1");
-    IpAddress ten(Ip("10.0.0.0"));
-    EXPECT_FALSE(t.HasMajorNetwork(ten));
-
-    // SetRTEntryList replaces everything with fresh indexes.
-    auto a = Route("1.0.0.0", 8), b = Route("2.0.0.0", 8);
-    a.Index = 50;
-    std::vector<RoutingTableEntry*> list{&a, &b};
-    t.SetRTEntryList(list);
-    t.SetRTEntryList(list);
-    EXPECT_EQ(t.GetSize(), 2u);
-    EXPECT_EQ(t.GetMaxIndex(), 2u);
 }
 
-TEST(TableCopies, CopiesResetIndexWhereTheTableAssignsIt) {
+TEST(TableCopies, EntryIndexAndDeepTableCopies) {
     RoutingTableEntry e = Route("10.0.0.0", 8, "1.1.1.1");
     e.Index = 5;
     RoutingTableEntry copy(e);
@@ -354,22 +333,15 @@ TEST(TableCopies, CopiesResetIndexWhereTheTableAssignsIt) {
 
     RoutingTable t("r1");
     t.SetDescription("core");
-    t.SetLastResoltGateway(1, 2);
     auto d = Route("0.0.0.0", 0, "1.1.1.1");
     d.CandidateDefault = true;
     d.Index = 4;
     t.AppendRoute(&d);
-    auto r = Route("10.0.0.0", 8);
-    r.Index = 2;
-    t.AppendRoute(&r);
-    RoutingTable dup(t);
-    EXPECT_EQ(dup.GetDescription(), "core");
-    ASSERT_NE(dup.GetRTEntryByIndex(4), nullptr);
-    EXPECT_EQ(dup.GetDefRoute(), dup.GetRTEntryByIndex(4));
-    EXPECT_EQ(dup.LookUp(IpAddress(Ip("10.1.1.1")), true)[0], dup.GetRTEntryByIndex(2));
-    RoutingTable assigned("other");
+    RoutingTable dup(t), assigned("other");
     assigned = t;
     t.CleanUp();  // the copies own their entries
+    EXPECT_EQ(dup.GetDescription(), "core");
+    EXPECT_EQ(dup.GetDefRoute(), dup.GetRTEntryByIndex(4));
     EXPECT_EQ(assigned.GetDefRoute()->NextHop.textForm(), "1.1.1.1");
     EXPECT_EQ(assigned.GetDeviceName(), "r1");
 }
@@ -384,19 +356,14 @@ TEST(TableFilters, SetsOfIndexInAndOut) {
         route.TimeStamp = age;
         t.AddRoute(&route);
     }
-
     using Set = std::set<unsigned int>;
-    Set only{3, 99}, empty;
+    Set only{3, 99};
     std::string gi0 = "Gi0";
-    EXPECT_EQ(t.FilterAlg(RT_ALG_OSPF, nullptr), (Set{1, 3}));
     EXPECT_EQ(t.FilterAlg(RT_ALG_OSPF, &only), (Set{3}));
     EXPECT_EQ(t.FilterNextRouter(Ip("1.1.1.1"), nullptr), (Set{1, 2}));
     EXPECT_EQ(t.FilterOutIfName(gi0, nullptr), (Set{1, 3}));
-    EXPECT_TRUE(t.FilterOutIfName(gi0, &empty).empty());
-    EXPECT_EQ(t.FilterTimeStamp(100, CT_EQUAL, nullptr), (Set{1}));
     EXPECT_EQ(t.FilterTimeStamp(100, CT_GREATER, nullptr), (Set{3}));
     EXPECT_EQ(t.FilterTimeStamp(301, CT_LESS, nullptr), (Set{1, 3}));
-    EXPECT_TRUE(t.FilterTimeStamp(0, static_cast<CompareType>(5), nullptr).empty());
     // The unknown age never passes, whatever the comparison.
     for (int type : {-1, 0, 1})
         EXPECT_EQ(t.FilterTimeStamp(0xFFFFFFFFu, static_cast<CompareType>(type), nullptr).count(2), 0u);
@@ -406,15 +373,14 @@ TEST(TableFilters, SetsOfIndexInAndOut) {
 TEST(EntryOrder, CompareSortsAndKeys) {
     auto a = Route("10.0.0.0", 8, "1.1.1.1", "Gi0", 90, 10), b = Route("10.0.0.0", 8, "1.1.1.1", "Gi0", 110, 1);
     EXPECT_EQ(a.compare(b), 1);  // lower Distance first
-    b.Distance = 90;
-    EXPECT_EQ(a.compare(b), -1);  // then lower Metric
-    // With costs on both sides: a same-protocol cost verdict comes first...
+    // With costs on both sides: a same-protocol cost verdict comes first,
+    // then Distance, then the protocol order.
     a.SetCostInfo(new RoutingCostOspf(1, 50, 0, RT_ALG_OSPF_IA, false));
     b.SetCostInfo(new RoutingCostOspf(1, 5, 7, RT_ALG_OSPF_IA, false));
     a.Distance = 200;
     EXPECT_EQ(a.compare(b), 1);
-    // ...then Distance, then the protocol order, then Metric.
     b.SetCostInfo(new RoutingCostRip(1));
+    b.Distance = 90;
     EXPECT_EQ(a.compare(b), -1);
     a.Distance = 90;
     EXPECT_EQ(a.compare(b), 1);  // OSPF (5) preferred to RIP (7)
@@ -422,21 +388,16 @@ TEST(EntryOrder, CompareSortsAndKeys) {
     std::vector<CompareItem> key{CI_DEST_IP, CI_NEXT_HOP, CI_METRIC};
     auto x = Route("10.0.0.0", 8, "1.1.1.1", "Gi0"), y = Route("10.0.0.0", 16, "1.1.1.2", "Gi1");
     EXPECT_EQ(x.compare(y, key), -1);  // NextHop decides, mask is not in the key
-    EXPECT_EQ(y.compare(x, key), 1);
     x.Metric = 999;
     EXPECT_EQ(x.compare(y, {CI_METRIC}), -1);  // Metric key compares OutIf text
-    EXPECT_EQ(x.compare(y, {static_cast<CompareItem>(42)}), 0);
     std::vector<RoutingTableEntry*> list{&y, &x};
     RoutingTable::SortRTEntryList(list);
     EXPECT_EQ(list[0], &x);
     RoutingTable::SortRTByAdMetric(list);
     EXPECT_EQ(list[0], &y);
-
     auto p = x;
     p.SpareFlag1 = 1;  // copied only, not compared
     EXPECT_TRUE(p == x);
-    p.CandidateDefault = true;
-    EXPECT_FALSE(p == x);
 }
 
 TEST(SortedListSearch, BinarySearchOnDestIpGathersTheRun) {
@@ -478,11 +439,9 @@ TEST(RouteText, CodesNamesAndCiscoLines) {
         EXPECT_FALSE(star);
     }
     EXPECT_EQ(RoutingTable::GetAlgByFullName(nullptr), RT_ALG_UNKNOWN);
-    EXPECT_EQ(RoutingTable::GetAlgByFullName("ospf (o)"), RT_ALG_UNKNOWN);
     bool star = false;
     EXPECT_EQ(RoutingTable::GetAlgorithmTypeByString("O*E2", star), RT_ALG_OSPF_E2);
     EXPECT_TRUE(star);
-    EXPECT_EQ(RoutingTable::GetAlgorithmTypeByString("O*", star), RT_ALG_OSPF);
     for (const char* bad : {"F XY", "X", static_cast<const char*>(nullptr)})
         EXPECT_EQ(RoutingTable::GetAlgorithmTypeByString(bad, star), RT_ALG_UNKNOWN);
     EXPECT_EQ(RoutingTableEntry::getProtocolByRouteType(static_cast<TW_RoutingAlgorithm>(17)), RPT_BGP);
@@ -503,8 +462,6 @@ TEST(RouteText, CodesNamesAndCiscoLines) {
     EXPECT_EQ(summary.ciscoText(), "D    10.0.0.0/8 is a summary,via null0, 1d01h, ");
     conn.Action = RA_WITHDRAW;
     EXPECT_EQ(conn.toString(), "C    10.0.0.0/24 [/]  WITHDRAW ");
-    conn.Action = 9;
-    EXPECT_EQ(conn.toString(), "C    10.0.0.0/24 [/] ");
 }
 
 TEST(RouteText, AgeFormsLosePrecisionOnPurpose) {
@@ -515,7 +472,6 @@ TEST(RouteText, AgeFormsLosePrecisionOnPurpose) {
         {"1w2d", 9u * 86400}, {"1w2d05h", 9u * 86400} /* hours dropped */, {"1d01h", 25u * 3600},
         {"00:01:02", 62u},    {"never", 0u}};
     for (auto [text, seconds] : read) EXPECT_EQ(RoutingTable::FormatTimeToSecond(text), seconds) << text;
-    EXPECT_EQ(RoutingTable::FormatTimeToSecond(nullptr), 0u);
     for (unsigned int s : {1u, 59u, 3599u, 86399u})
         EXPECT_EQ(RoutingTable::FormatTimeToSecond(RoutingTable::FormatSecondToTime(s).c_str()), s);
 }
@@ -541,6 +497,4 @@ TEST(LiveRoutes, SnmpColumnsToRouteTypes) {
     EXPECT_EQ(e.Index, 12u);
     EXPECT_EQ(Prefix(&e), "10.1.0.0/16");
     EXPECT_EQ(e.Alg, RT_ALG_OSPF);
-    live.RouteType = 3;
-    EXPECT_EQ(live.ciscoText(), "C    10.1.0.0/255.255.0.0 [0/0] is directly connected Gi0/1");
 }

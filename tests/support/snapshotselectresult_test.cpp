@@ -25,8 +25,6 @@ TEST(SnapshotSelectResult, ValidityFollowsTheSearchType) {
   r.SetSearchType(CSnapshotSelectResult::SearchByTime);
   r.SetEndTime(0);
   EXPECT_FALSE(r.IsValid());
-  r.SetEndTime(-5);
-  EXPECT_FALSE(r.IsValid());
   r.SetEndTime(1);
   EXPECT_TRUE(r.IsValid());
 
@@ -49,7 +47,6 @@ TEST(SnapshotSelectResult, JsonRoundTripLeavesMatchedIdsBehind) {
     EXPECT_EQ(json.getMemberNames(),
               (std::vector<std::string>{"snapshotID", "snapshotTimeID", "searchType", "endTime", "timeSpan"}));
     EXPECT_TRUE(json["endTime"].isTime());
-    EXPECT_TRUE(json["timeSpan"].isIntegral());
 
     // Through text as well, the way the platform stores it.
     kxJson::Value reparsed;
