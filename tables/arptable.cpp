@@ -24,8 +24,6 @@ namespace {
 
 using namespace netloom::detail::table;
 
-const char* const kVersion = "version:1.0";
-const char* const kHostTag = "hostname:";
 // Column names of row 2; the reader insists on the first three only.
 const char* const kColumns[] = {"Interface", "IP Address", "MAC Address", "Vendor"};
 constexpr size_t kRequiredColumns = 3;
@@ -248,11 +246,7 @@ bool ArpTable::ImportArpTable(const std::string& path, const std::string& hostna
 bool ArpTable::ExportToCSV(std::ostream& out) {
   if (out.fail()) return false;
   CSVLineParser row("");
-  row.SetAt(0, kVersion);
-  row.SetAt(1, kHostTag + m_hostName);
-  row.WriteToStream(out);
-  for (int i = 0; i < 4; ++i) row.SetAt(i, kColumns[i]);
-  row.WriteToStream(out);
+  WriteTableHead(out, row, m_hostName, kColumns, 4);
   for (const ArpRecord& r : m_records) {
     row.SetAt(0, r.Interface);
     row.SetAt(1, r.Ip);

@@ -45,8 +45,6 @@ namespace {
 
 using namespace netloom::detail::table;
 
-const char* const kVersion = "version:1.0";
-const char* const kHostTag = "hostname:";
 const char* const kColumns[] = {"VLan ID", "Mac Address", "Port Name", "Vendor", "IP Address", "DNS Name", "VLan Name"};
 constexpr size_t kRequiredColumns = 3;
 constexpr size_t kVlanNameColumn = 6;
@@ -241,11 +239,7 @@ bool MacTable::ImportMacTable(const std::string& path, const std::string& hostna
 bool MacTable::ExportMacTable(std::ostream& out) {
   if (out.fail()) return false;
   CSVLineParser row("");
-  row.SetAt(0, kVersion);
-  row.SetAt(1, kHostTag + m_hostName);
-  row.WriteToStream(out);
-  for (int i = 0; i < 7; ++i) row.SetAt(i, kColumns[i]);
-  row.WriteToStream(out);
+  WriteTableHead(out, row, m_hostName, kColumns, 7);
   for (const auto& port : m_portMap) {
     for (const MacRecord& r : port.second) {
       row.SetAt(0, r.VlanId == kNoVlan ? std::string() : std::to_string(r.VlanId));

@@ -80,6 +80,15 @@ void TakeHostname(const CSVLineParser& row, std::string& hostname) {
   if (at != std::string::npos) hostname = field.substr(at + tag.size());
 }
 
+void WriteTableHead(std::ostream& out, CSVLineParser& row, const std::string& hostname,
+                    const char* const* names, size_t count) {
+  row.SetAt(0, "version:1.0");
+  row.SetAt(1, "hostname:" + hostname);
+  row.WriteToStream(out);
+  for (size_t i = 0; i < count; ++i) row.SetAt(static_cast<int>(i), names[i]);
+  row.WriteToStream(out);
+}
+
 bool HeaderMatches(const CSVLineParser& row, const char* const* names, size_t count) {
   if (row.size() < count) return false;
   for (size_t i = 0; i < count; ++i)

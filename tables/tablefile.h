@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <istream>
+#include <ostream>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -30,6 +31,10 @@ bool IsValidIp(const std::string& text);
 // Host name from a table's first row: all after the first "hostname:" in
 // field 1, when there is one; otherwise `hostname` stays.
 void TakeHostname(const CSVLineParser& row, std::string& hostname);
+// Writes the two head rows of a table file: "version:1.0" and "hostname:"
+// with the host name, then the column names. Leaves those cells in `row`.
+void WriteTableHead(std::ostream& out, CSVLineParser& row, const std::string& hostname,
+                    const char* const* names, size_t count);
 // The first `count` fields of a column row are exactly `names`.
 bool HeaderMatches(const CSVLineParser& row, const char* const* names, size_t count);
 
