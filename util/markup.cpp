@@ -14,6 +14,7 @@
 #include <iterator>
 #include <limits>
 #include <sstream>
+#include <string_view>
 #include <vector>
 
 namespace netloom::detail {
@@ -105,6 +106,42 @@ void PutData(pugi::xml_node n, const std::string& data, int flags) {
   n.append_child(type).set_value(text.c_str());
 }
 
+// True where a raw (unescaped) text holds a character reference to code point
+// 0 ("&#0;", "&#x000;"). pugixml decodes it to a NUL, which then ends the C
+// string it keeps, so everything behind it would be dropped without a word.
+bool HasNulReference(const char* v) {
+  for (const char* p = std::strstr(v, "&#"); p; p = std::strstr(p + 2, "&#")) {
+    const char* q = p + 2;
+    if (*q == 'x' || *q == 'X') ++q;
+    const char* zeros = q;
+    while (*q == '0') ++q;
+    if (q != zeros && *q == ';') return true;
+  }
+  return false;
+}
+
+// A document with such a reference is not XML: refuse it rather than load it
+// cut short. Only text and attribute values decode references (CDATA,
+// comments and instructions keep theirs literally), so those are checked on a
+// second, non-decoding parse, which only documents holding "&#" pay for.
+bool HoldsNulReference(const char* data, size_t size, pugi::xml_encoding encoding) {
+  if (encoding == pugi::encoding_utf8 && std::string_view(data, size).find("&#") == std::string_view::npos)
+    return false;
+  pugi::xml_document raw;
+  if (!raw.load_buffer(data, size, kParseOptions & ~pugi::parse_escapes, encoding)) return false;
+  struct Walker : pugi::xml_tree_walker {
+    bool found = false;
+    bool for_each(pugi::xml_node& n) override {
+      if (n.type() == pugi::node_pcdata && HasNulReference(n.value())) found = true;
+      for (pugi::xml_attribute a = n.first_attribute(); a && !found; a = a.next_attribute())
+        found = HasNulReference(a.value());
+      return !found;
+    }
+  } walker;
+  raw.traverse(walker);
+  return walker.found;
+}
+
 // Parses `text` into `doc` and tidies the top level: blank text between
 // top-level nodes goes, any other text there makes the markup malformed.
 bool ParseInto(pugi::xml_document& doc, const char* data, size_t size, pugi::xml_encoding encoding,
@@ -112,6 +149,11 @@ bool ParseInto(pugi::xml_document& doc, const char* data, size_t size, pugi::xml
   pugi::xml_parse_result result = doc.load_buffer(data, size, kParseOptions, encoding);
   if (!result) {
     error = std::string(result.description()) + " at offset " + std::to_string(result.offset);
+    doc.reset();
+    return false;
+  }
+  if (HoldsNulReference(data, size, encoding)) {
+    error = "character reference to code point 0";
     doc.reset();
     return false;
   }
@@ -711,7 +753,9 @@ bool CMarkup::SetElemContent(const char* markup) {
   if (!m.main) return false;
   const std::string text(markup ? markup : "");
   pugi::xml_document content;
-  if (!content.load_buffer(text.data(), text.size(), d::kParseOptions, pugi::encoding_utf8)) return false;
+  if (!content.load_buffer(text.data(), text.size(), d::kParseOptions, pugi::encoding_utf8) ||
+      d::HoldsNulReference(text.data(), text.size(), pugi::encoding_utf8))
+    return false;
   while (m.main.first_child()) m.main.remove_child(m.main.first_child());
   for (pugi::xml_node n = content.first_child(); n; n = n.next_sibling()) {
     if (n.type() == pugi::node_declaration || n.type() == pugi::node_doctype) continue;

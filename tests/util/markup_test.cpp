@@ -265,6 +265,8 @@ TEST(MarkupHostile, MalformedMarkupIsRefused) {
   const std::string bad[] = {
       "<a>", "<a></b>", "just text", "<a/>trailing", "<a b=1/>", "<a b=\"1/>", "<!-- open",
       "<a><![CDATA[x</a>", "</a>", "<a>&#</a", "<?xml version=\"1.0\"?><a", "<>", std::string("<a>\0</a>", 8),
+      // A reference to code point 0 decodes to a NUL that would cut the text short.
+      "<r>a&#0;b</r>", "<r>a&#x000;b</r>", "<r a=\"x&#X0;y\"/>",
   };
   for (const std::string& text : bad) {
     CMarkup m("<keep/>");
@@ -273,6 +275,12 @@ TEST(MarkupHostile, MalformedMarkupIsRefused) {
     EXPECT_FALSE(m.GetError().empty());
     EXPECT_FALSE(m.FindElem());
   }
+  // Where references are not decoded they are plain text, and a zero digit is no NUL.
+  CMarkup literal;
+  ASSERT_TRUE(literal.SetDoc("<r a=\"&#48;\"><![CDATA[&#0;]]><!--&#0;--></r>"));
+  EXPECT_EQ(literal.GetDoc(), "<r a=\"0\"><![CDATA[&#0;]]><!--&#0;--></r>");
+  EXPECT_FALSE(literal.AddElem("x") && literal.SetElemContent("<y>&#0;</y>"));
+
   CMarkup missing;
   EXPECT_FALSE(missing.Load(netloom_test::ScratchDir() + "no/such/file.xml"));
 }
